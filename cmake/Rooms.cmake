@@ -1,0 +1,35 @@
+# What every target is built with, and how a room becomes one.
+
+add_library(tessarine_options INTERFACE)
+target_include_directories(tessarine_options INTERFACE ${CMAKE_SOURCE_DIR}/src)
+target_compile_options(tessarine_options INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror)
+if(TESSARINE_SANITIZE)
+  target_compile_options(tessarine_options INTERFACE
+    -fsanitize=${TESSARINE_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(tessarine_options INTERFACE -fsanitize=${TESSARINE_SANITIZE})
+endif()
+
+# tessarine_room(NAME [rooms below ...]): a static library of all the sources in src/NAME.
+function(tessarine_room name)
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/${name}/*.cpp)
+  if(NOT sources)
+    add_library(tessarine_${name} INTERFACE)
+    target_link_libraries(tessarine_${name} INTERFACE tessarine_options ${ARGN})
+    return()
+  endif()
+  add_library(tessarine_${name} STATIC ${sources})
+  target_link_libraries(tessarine_${name} PUBLIC tessarine_options ${ARGN})
+endfunction()
+
+# tessarine_tests(NAME targets ...): a test program of all the sources in tests/NAME.
+function(tessarine_tests name)
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/${name}/*.cpp)
+  if(NOT sources)
+    return()
+  endif()
+  add_executable(${name}_tests ${sources})
+  target_include_directories(${name}_tests PRIVATE ${CMAKE_SOURCE_DIR}/tests)
+  target_link_libraries(${name}_tests PRIVATE ${ARGN} GTest::gtest_main)
+  gtest_discover_tests(${name}_tests TEST_PREFIX ${name}. DISCOVERY_TIMEOUT 60)
+endfunction()

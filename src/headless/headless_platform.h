@@ -1,0 +1,142 @@
+// A platform in memory: virtual clock, scripted answers, seeded chance, recorded sounds, files that
+// live in a map and can be made to fail. Deterministic; for tests, fuzzers and benchmarks.
+#pragma once
+
+#include "runtime/form.h"
+#include "runtime/platform.h"
+#include "runtime/timer.h"
+
+#include <cstdint>
+#include <deque>
+#include <functional>
+#include <map>
+#include <random>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace tessarine
+{
+
+class HeadlessPlatform : public Platform
+{
+public:
+    explicit HeadlessPlatform(std::uint64_t seed = 1) : random_(seed) {}
+
+    // --- the script of a test ---
+
+    /// What the user does with the next modal form, in the order of these calls. A modal form that
+    /// finds no script gets its cancel or its first visible button pressed, and counts as unscripted.
+    void OnNextModal(std::function<void(Form&)> user);
+    /// The user presses the button with this caption on the next modal form.
+    void AnswerModal(const std::string& caption);
+    /// Answers of the system's own boxes, in order; without one: Ok or No, an empty text, a cancel.
+    std::deque<bool> plainAnswers;
+    std::deque<std::string> typedAnswers;
+    std::deque<std::string> chosenFiles;
+    /// Runs inside the next call that lets pending events run or waits, one entry a call: input in the
+    /// middle of something.
+    std::deque<std::function<void()>> meanwhile;
+
+    // --- what happened ---
+
+    std::vector<std::string> sounds;        ///< bare file names, oldest first
+    std::vector<std::string> plainMessages; ///< texts of the system's own message box
+    std::vector<FileDialogRequest> fileDialogs;
+    std::vector<std::string> modalCaptions; ///< captions of the modal forms that were run
+    int unscriptedModals = 0;
+    int paints = 0;          ///< rounds of events in which something changed
+    int paintedControls = 0; ///< changed controls over all those rounds
+    bool ended = false;      ///< EndProgram was called
+    bool busy = false;
+    const Control* frozen = nullptr;
+
+    // --- the world ---
+
+    /// Path to bytes. A path that ends in "/" is a folder.
+    std::map<std::string, std::string> files;
+    std::string currentFolder = "/run";
+    std::set<std::string> hiddenFiles;
+    /// The file operation (ReadFile, WriteNewFile, RenameFile, counted together from 0 since the last
+    /// ResetFileOperations) that fails; -1 for none. A failed write leaves half of the bytes behind.
+    int failingFileOperation = -1;
+    /// From `failingFileOperation` on every file operation fails.
+    bool failsFromThere = false;
+    int fileOperations = 0;
+    void ResetFileOperations(int failing = -1, bool fromThere = false);
+
+    std::vector<std::string> fonts = {"Arial", "Courier New", "DejaVu Sans", "Liberation Sans"};
+    PixelPoint cursor;
+    DateTime now{2008, 3, 14, 15, 9, 26, "Mar"};
+    std::int64_t milliseconds = 0; ///< of the virtual clock since the start
+    /// A window of this form keeps the width that it has: maximised, tiled.
+    std::set<const Form*> refusesSize;
+
+    // --- the user's hands; positions in twips of the form's client area ---
+
+    /// Moves the screen cursor so that it stands over the point, as a desktop would.
+    void MoveMouse(Form& form, Twips x, Twips y, int shift = 0);
+    void Press(Form& form, Twips x, Twips y, int button = LeftButton, int shift = 0);
+    void Release(Form& form, Twips x, Twips y, int button = LeftButton, int shift = 0);
+    /// Press and release in the middle of a control that is on a shown form.
+    void Click(Control& control, int button = LeftButton);
+    /// Lets virtual time go by; the timers that fall due tick in their order.
+    void Advance(int milliseconds);
+
+    // --- Platform ---
+
+    void ShowForm(Form& form) override;
+    void HideForm(Form& form) override;
+    void RunModal(Form& form, Form* owner) override;
+    void DestroyForm(Form& form) override;
+    Size FitWindow(Form& form, Size clientArea) override;
+    void ChangesPending(Form& form) override;
+    void FreezeSurface(const Control* surface) override;
+    void RunPendingEvents() override;
+    void WaitForEvent() override;
+    void StartTimer(Timer& timer, int milliseconds) override;
+    void StopTimer(Timer& timer) override;
+    void EndProgram() override;
+    PixelPoint Cursor() override;
+    void SetBusyPointer(bool isBusy) override;
+    DateTime Now() override;
+    float SecondsSinceMidnight() override;
+    void SeedRandom(double seed) override;
+    double RandomDraw() override;
+    std::vector<std::string> ScreenFonts() override;
+    Size TextSize(const Font& font, std::string_view text) override;
+    bool PlainMessage(const std::string& text, PlainButtons buttons) override;
+    std::string AskForText(const std::string& prompt) override;
+    std::string ChooseFile(const FileDialogRequest& request, Form* owner) override;
+    void PlayWave(const std::string& path) override;
+    std::optional<std::string> ReadFile(const std::string& path) override;
+    bool WriteNewFile(const std::string& path, std::string_view bytes) override;
+    bool RenameFile(const std::string& from, const std::string& to) override;
+    void RemoveFile(const std::string& path) override;
+    bool IsPlainFile(const std::string& path) override;
+    std::string CurrentFolder() override;
+    void ChangeFolder(const std::string& folder) override;
+    char FolderSeparator() const override { return '/'; }
+
+    /// Whether a timer is running or an event waits: false while the program is idle.
+    bool HasWork() const;
+
+private:
+    struct RunningTimer {
+        std::int64_t due = 0;
+        Timer* timer = nullptr;
+    };
+
+    void TakeAllChanges();
+    bool RunNextMeanwhile();
+    bool FireNextTimer(std::int64_t until);
+    bool FileOperationFails();
+    std::string Resolved(const std::string& path) const;
+
+    std::mt19937_64 random_;
+    std::deque<std::function<void(Form&)>> modalScript_;
+    std::vector<RunningTimer> timers_;
+    std::vector<Form*> changed_;
+};
+
+} // namespace tessarine

@@ -1,0 +1,206 @@
+#include "runtime/controls.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace tessarine
+{
+
+const Canvas& UserControl::Drawing() const
+{
+    if (std::exchange(stale_, false)) {
+        canvas_.Clear(BackColor());
+        Draw(canvas_);
+    }
+    return canvas_;
+}
+
+void UserControl::Redraw()
+{
+    stale_ = true;
+    Touch();
+}
+
+void PushButton::UserReleases(int button)
+{
+    if (TakesInput()) {
+        MouseReleased({button, 0, Width() / 2, Height() / 2});
+    }
+}
+
+const TextList& ListBox::Items() const
+{
+    if (source_) {
+        items_.AddAll(std::exchange(source_, nullptr)());
+    }
+    return items_;
+}
+
+void ListBox::ItemsChanged()
+{
+    ++edition_;
+    selected_.reset();
+    topIndex_ = 0;
+    Touch();
+}
+
+void ListBox::Clear()
+{
+    source_ = nullptr;
+    items_.Clear();
+    ItemsChanged();
+}
+
+void ListBox::Add(std::string text)
+{
+    Items();
+    items_.Add(std::move(text));
+    ++edition_;
+    Touch();
+}
+
+void ListBox::FillWhenAsked(std::function<std::vector<std::string>()> source)
+{
+    items_.Clear();
+    source_ = std::move(source);
+    ItemsChanged();
+}
+
+std::string ListBox::SelectedText() const
+{
+    return selected_ ? Items().At(*selected_) : std::string();
+}
+
+void ListBox::Select(std::optional<std::size_t> position)
+{
+    if (position && *position >= Items().Count()) {
+        position.reset();
+    }
+    Assign(selected_, position);
+}
+
+void ListBox::UserPicks(std::size_t position)
+{
+    if (!TakesInput() || position >= Items().Count()) {
+        return;
+    }
+    Select(position);
+    MouseReleased({LeftButton, 0, 0, 0});
+}
+
+void ListBox::UserReleasesOnNothing()
+{
+    if (TakesInput()) {
+        MouseReleased({LeftButton, 0, 0, 0});
+    }
+}
+
+void ScrollBar::SetRange(Whole min, Whole max, Whole smallChange, Whole largeChange)
+{
+    Assign(min_, min);
+    Assign(max_, max);
+    Assign(smallChange_, smallChange);
+    Assign(largeChange_, largeChange);
+}
+
+void ScrollBar::SetValue(Whole value)
+{
+    const Whole held = std::clamp(value, std::min(min_, max_), std::max(min_, max_));
+    if (Assign(value_, held) && OnChange) {
+        OnChange();
+    }
+}
+
+void ScrollBar::UserSets(Whole value)
+{
+    if (TakesInput()) {
+        SetValue(value);
+    }
+}
+
+void OptionButton::SetValue(bool value)
+{
+    if (!Assign(value_, value) || !value || Parent() == nullptr) {
+        return;
+    }
+    for (Control* neighbour : Parent()->Children()) {
+        if (auto* option = dynamic_cast<OptionButton*>(neighbour); option != nullptr && option != this) {
+            option->SetValue(false);
+        }
+    }
+}
+
+void OptionButton::UserPicks()
+{
+    if (TakesInput()) {
+        SetValue(true);
+        MouseReleased({LeftButton, 0, 0, 0});
+    }
+}
+
+void CheckBox::UserToggles()
+{
+    if (TakesInput()) {
+        SetValue(!value_);
+        MouseReleased({LeftButton, 0, 0, 0});
+    }
+}
+
+void TextBox::UserPresses(int button)
+{
+    if (TakesInput()) {
+        MousePressed({button, 0, 0, 0});
+    }
+}
+
+std::string Browser::LocationURL() const
+{
+    return history_.empty() ? std::string() : history_[place_];
+}
+
+void Browser::Visit(const std::string& address)
+{
+    if (LocationURL() != address) {
+        if (!history_.empty()) {
+            history_.resize(place_ + 1);
+        }
+        history_.push_back(address);
+        place_ = history_.size() - 1;
+    }
+    Touch();
+}
+
+void Browser::Navigate(const std::string& address)
+{
+    ++loads_;
+    Visit(address);
+}
+
+bool Browser::GoBack()
+{
+    if (place_ == 0) {
+        return false;
+    }
+    --place_;
+    Touch();
+    return true;
+}
+
+bool Browser::GoForward()
+{
+    if (place_ + 1 >= history_.size()) {
+        return false;
+    }
+    ++place_;
+    Touch();
+    return true;
+}
+
+void Browser::UserFollows(const std::string& address)
+{
+    if (TakesInput()) {
+        Visit(address);
+    }
+}
+
+} // namespace tessarine
