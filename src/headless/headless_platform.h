@@ -57,6 +57,8 @@ public:
     std::map<std::string, std::string> files;
     std::string currentFolder = "/run";
     std::set<std::string> hiddenFiles;
+    /// Folders, with or without the "/" at their ends, in which nothing can be made, renamed or removed.
+    std::set<std::string> readOnlyFolders;
     /// The file operation (ReadFile, WriteNewFile, RenameFile, counted together from 0 since the last
     /// ResetFileOperations) that fails; -1 for none. A failed write leaves half of the bytes behind.
     int failingFileOperation = -1;
@@ -74,12 +76,20 @@ public:
 
     // --- the user's hands; positions in twips of the form's client area ---
 
+    // Each of these is a round of events: what it changed is painted at its end. A press brings the
+    // form to the front first. All but Click are lenient: what a window would not take is gone.
+
     /// Moves the screen cursor so that it stands over the point, as a desktop would.
     void MoveMouse(Form& form, Twips x, Twips y, int shift = 0);
     void Press(Form& form, Twips x, Twips y, int button = LeftButton, int shift = 0);
     void Release(Form& form, Twips x, Twips y, int button = LeftButton, int shift = 0);
-    /// Press and release in the middle of a control that is on a shown form.
+    /// Press and release in the middle of a control; of the toolkit's own buttons and boxes what they
+    /// make of it. Throws std::logic_error if the control does not show, or if it is a list, a scroll
+    /// bar or a page, of which the User... functions say where.
     void Click(Control& control, int button = LeftButton);
+    /// The control that shows on the form and goes by this name for assistive tools, buttons before
+    /// others; none if there is none.
+    static Control* FindShown(const Container& on, const std::string& accessibleName);
     /// Lets virtual time go by; the timers that fall due tick in their order.
     void Advance(int milliseconds);
 
@@ -127,16 +137,27 @@ private:
         Timer* timer = nullptr;
     };
 
-    void TakeAllChanges();
+    void RaiseWindow(Form& form);
+    bool HasRoundToFinish() const;
+    void FinishRound();
+    void PaintChanges();
+    int DrawnNow(const std::vector<Control*>& changes);
     bool RunNextMeanwhile();
     bool FireNextTimer(std::int64_t until);
     bool FileOperationFails();
     std::string Resolved(const std::string& path) const;
+    bool IsReadOnly(const std::string& resolved) const;
+    bool IsFolder(const std::string& resolved) const;
 
     std::mt19937_64 random_;
+    std::uint64_t mixedIn_ = 0;
     std::deque<std::function<void(Form&)>> modalScript_;
     std::vector<RunningTimer> timers_;
     std::vector<Form*> changed_;
+    std::vector<Form*> windows_; ///< those shown, the front-most last
+    Form* comesToFront_ = nullptr;
+    bool changedWhileFrozen_ = false;
+    bool thawed_ = false; ///< and not painted since
 };
 
 } // namespace tessarine

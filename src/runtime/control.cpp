@@ -190,7 +190,12 @@ void Control::Touch()
 
 Container::~Container()
 {
+    // A form has forgotten everything when it comes here, and stands on nothing itself.
+    Form* const form = Parent() == nullptr ? nullptr : Parent()->OwnerForm();
     for (Control* child : children_) {
+        if (form != nullptr) {
+            form->Forget(*child);
+        }
         child->parent_ = nullptr;
     }
 }

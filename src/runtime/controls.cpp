@@ -54,7 +54,10 @@ void ListBox::Clear()
 void ListBox::Add(std::string text)
 {
     Items();
-    items_.Add(std::move(text));
+    const std::size_t place = items_.Add(std::move(text));
+    if (selected_ && place <= *selected_) {
+        ++*selected_; // the selection stays with its entry
+    }
     ++edition_;
     Touch();
 }

@@ -20,6 +20,7 @@ Form::~Form()
         forms_.active_ = nullptr;
     }
     platform().DestroyForm(*this);
+    TakeChanges(); // a control that lives on may come to another form
 }
 
 void Form::Load()
@@ -46,10 +47,14 @@ void Form::ShowModal(Form* owner)
     Load();
     Form* const before = forms_.active_;
     forms_.modals_.push_back(this);
+    for (Form* other : forms_.loaded_) {
+        other->LoseCapture();
+    }
     Show();
     platform().RunModal(*this, owner);
     std::erase(forms_.modals_, this);
-    forms_.active_ = before;
+    const bool isThere = std::ranges::find(forms_.loaded_, before) != forms_.loaded_.end();
+    forms_.active_ = isThere && before->shown_ ? before : nullptr;
 }
 
 void Form::Hide()
@@ -58,8 +63,7 @@ void Form::Hide()
         return;
     }
     shown_ = false;
-    captured_ = nullptr;
-    pressedButtons_ = 0;
+    LoseCapture();
     if (forms_.active_ == this) {
         forms_.active_ = nullptr;
     }
@@ -76,6 +80,7 @@ void Form::Unload()
     loaded_ = false;
     std::erase(forms_.loaded_, this);
     platform().DestroyForm(*this);
+    TakeChanges(); // nobody waits for them any more, and the next change is a first one
 }
 
 void Form::SetClientArea(Size wanted)
@@ -180,12 +185,24 @@ void Form::NoteChange(Control& control)
 
 void Form::Forget(Control& control)
 {
-    if (control.changed_) {
+    if (std::exchange(control.changed_, false)) {
         std::erase(changes_, &control);
     }
     if (captured_ == &control) {
         captured_ = nullptr;
     }
+    if (const auto* box = dynamic_cast<const Container*>(&control)) {
+        for (Control* child : box->Children()) {
+            Forget(*child);
+        }
+    }
+}
+
+/// The release of what is pressed may reach another window, or none.
+void Form::LoseCapture()
+{
+    captured_ = nullptr;
+    pressedButtons_ = 0;
 }
 
 } // namespace tessarine

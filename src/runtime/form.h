@@ -125,12 +125,14 @@ protected:
 
 private:
     friend class Control;
+    friend class Container;
     friend class InputHold;
 
     bool IsBehindModal() const { return forms_.Modal() != nullptr && forms_.Modal() != this; }
     void Activate();
     void NoteChange(Control& control);
     void Forget(Control& control);
+    void LoseCapture();
 
     Forms& forms_;
     std::string caption_;

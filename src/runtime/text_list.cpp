@@ -29,12 +29,13 @@ bool ComesBefore(const std::string& a, const std::string& b)
 
 } // namespace
 
-void TextList::Add(std::string text)
+std::size_t TextList::Add(std::string text)
 {
     const auto place = order_ == Order::Sorted
                            ? std::upper_bound(entries_.begin(), entries_.end(), text, ComesBefore)
                            : entries_.end();
-    entries_.insert(place, std::move(text));
+    const auto entry = entries_.insert(place, std::move(text));
+    return static_cast<std::size_t>(entry - entries_.begin());
 }
 
 void TextList::AddAll(std::vector<std::string> texts)

@@ -28,8 +28,8 @@ public:
     auto begin() const { return entries_.begin(); }
     auto end() const { return entries_.end(); }
 
-    /// Appends the text, or inserts it at its sorted place.
-    void Add(std::string text);
+    /// Appends the text, or inserts it at its sorted place; the position that it got.
+    std::size_t Add(std::string text);
     /// Adds many at once: one sort instead of one for each.
     void AddAll(std::vector<std::string> texts);
     void PushFront(std::string text);

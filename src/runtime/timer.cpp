@@ -38,7 +38,7 @@ void Timer::Fire()
     if (OnTick) {
         OnTick();
     }
-    if (enabled_) {
+    if (enabled_ && interval_ > 0) {
         platform_.StartTimer(*this, interval_);
     }
 }

@@ -1,0 +1,478 @@
+#include "headless/headless_platform.h"
+
+#include <algorithm>
+#include <bit>
+#include <cmath>
+#include <stdexcept>
+#include <utility>
+
+namespace tessarine
+{
+namespace
+{
+
+constexpr double CharacterWidth = 0.6; ///< of the font size
+constexpr double LineHeight = 1.2;
+
+bool StandsOn(const Control* control, const Control* surface)
+{
+    while (control != nullptr && control != surface) {
+        control = control->Parent();
+    }
+    return control != nullptr;
+}
+
+std::string_view FolderOf(std::string_view path)
+{
+    const auto separator = path.rfind('/');
+    return separator == std::string_view::npos ? std::string_view() : path.substr(0, separator);
+}
+
+std::string_view BareName(std::string_view path)
+{
+    return path.substr(path.rfind('/') + 1);
+}
+
+/// The first control of a form that a user would take for a button.
+Control* FirstButton(const Container& on)
+{
+    for (Control* control : on.Children()) {
+        if (!control->Visible() || !control->Enabled()) {
+            continue;
+        }
+        const bool drawsItself = control->Kind() == ControlKind::UserControl;
+        if (control->Kind() == ControlKind::PushButton || (drawsItself && control->TakesFocus())) {
+            return control;
+        }
+        if (const auto* box = dynamic_cast<const Container*>(control)) {
+            if (Control* inside = FirstButton(*box); inside != nullptr) {
+                return inside;
+            }
+        }
+    }
+    return nullptr;
+}
+
+/// What a user does who only wants the form to go.
+void PressDefault(Form& form)
+{
+    Control* const button = form.CancelControl != nullptr ? form.CancelControl : FirstButton(form);
+    if (button != nullptr) {
+        button->UserActivates();
+    }
+}
+
+} // namespace
+
+// --- the script ---
+
+void HeadlessPlatform::OnNextModal(std::function<void(Form&)> user)
+{
+    modalScript_.push_back(std::move(user));
+}
+
+void HeadlessPlatform::AnswerModal(const std::string& caption)
+{
+    OnNextModal([this, caption](Form& form) {
+        Control* const button = FindShown(form, caption);
+        if (button == nullptr) {
+            throw std::logic_error("the form \"" + form.Caption() + "\" shows no \"" + caption + '"');
+        }
+        Click(*button);
+    });
+}
+
+void HeadlessPlatform::ResetFileOperations(int failing, bool fromThere)
+{
+    fileOperations = 0;
+    failingFileOperation = failing;
+    failsFromThere = fromThere;
+}
+
+// --- forms ---
+
+void HeadlessPlatform::ShowForm(Form& form)
+{
+    std::erase(windows_, &form);
+    windows_.push_back(&form);
+    comesToFront_ = nullptr;
+}
+
+void HeadlessPlatform::HideForm(Form& form)
+{
+    const bool wasFront = !windows_.empty() && windows_.back() == &form;
+    std::erase(windows_, &form);
+    if (wasFront) {
+        comesToFront_ = windows_.empty() ? nullptr : windows_.back();
+    }
+}
+
+void HeadlessPlatform::RunModal(Form& form, Form* /*owner*/)
+{
+    modalCaptions.push_back(form.Caption());
+    const bool scripted = !modalScript_.empty();
+    if (!scripted) {
+        ++unscriptedModals;
+        PressDefault(form);
+    } else {
+        const auto user = std::move(modalScript_.front());
+        modalScript_.pop_front();
+        user(form);
+    }
+    while (form.IsShown() && !ended && HasWork()) {
+        WaitForEvent();
+    }
+    if (form.IsShown()) { // and nobody would ever close it
+        unscriptedModals += scripted ? 1 : 0;
+        form.Hide();
+    }
+}
+
+void HeadlessPlatform::DestroyForm(Form& form)
+{
+    std::erase(windows_, &form);
+    std::erase(changed_, &form);
+    if (comesToFront_ == &form) {
+        comesToFront_ = nullptr;
+    }
+}
+
+Size HeadlessPlatform::FitWindow(Form& form, Size clientArea)
+{
+    if (refusesSize.contains(&form)) {
+        return {form.Width(), form.Height()};
+    }
+    const auto wholePixels = [](Twips length) {
+        return std::max(1, RoundHalfEven(length / TwipsPerPixel)) * static_cast<Twips>(TwipsPerPixel);
+    };
+    return {wholePixels(clientArea.width), wholePixels(clientArea.height)};
+}
+
+void HeadlessPlatform::ChangesPending(Form& form)
+{
+    changed_.push_back(&form);
+}
+
+void HeadlessPlatform::FreezeSurface(const Control* surface)
+{
+    frozen = surface;
+    thawed_ = thawed_ || (surface == nullptr && changedWhileFrozen_);
+}
+
+// --- events ---
+
+bool HeadlessPlatform::HasRoundToFinish() const
+{
+    return comesToFront_ != nullptr || !changed_.empty() || thawed_;
+}
+
+void HeadlessPlatform::FinishRound()
+{
+    if (comesToFront_ != nullptr) {
+        std::exchange(comesToFront_, nullptr)->FeedActivation();
+    }
+    if (!changed_.empty() || thawed_) {
+        PaintChanges();
+    }
+}
+
+void HeadlessPlatform::PaintChanges()
+{
+    int drawn = 0;
+    for (Form* form : changed_) {
+        const auto changes = form->TakeChanges();
+        if (form->IsShown()) {
+            drawn += DrawnNow(changes);
+        }
+    }
+    changed_.clear();
+    if (std::exchange(thawed_, false)) {
+        changedWhileFrozen_ = false;
+        ++drawn; // the surface that was frozen, as a whole
+    }
+    if (drawn > 0) {
+        ++paints;
+        paintedControls += drawn;
+    }
+}
+
+int HeadlessPlatform::DrawnNow(const std::vector<Control*>& changes)
+{
+    if (frozen == nullptr) {
+        return static_cast<int>(changes.size());
+    }
+    int drawn = 0;
+    for (const Control* control : changes) {
+        if (StandsOn(control, frozen)) {
+            changedWhileFrozen_ = true;
+        } else {
+            ++drawn;
+        }
+    }
+    return drawn;
+}
+
+bool HeadlessPlatform::RunNextMeanwhile()
+{
+    if (meanwhile.empty()) {
+        return false;
+    }
+    const auto event = std::move(meanwhile.front());
+    meanwhile.pop_front();
+    event();
+    return true;
+}
+
+bool HeadlessPlatform::FireNextTimer(std::int64_t until)
+{
+    const auto next = std::ranges::min_element(timers_, {}, &RunningTimer::due);
+    if (next == timers_.end() || next->due > until) {
+        return false;
+    }
+    milliseconds = std::max(milliseconds, next->due);
+    Timer* const timer = next->timer;
+    timers_.erase(next);
+    timer->Fire();
+    return true;
+}
+
+void HeadlessPlatform::RunPendingEvents()
+{
+    RunNextMeanwhile();
+    const std::int64_t until = milliseconds; // a handler may itself wait, and start anew
+    while (FireNextTimer(until)) {
+    }
+    FinishRound();
+}
+
+void HeadlessPlatform::WaitForEvent()
+{
+    if (RunNextMeanwhile()) {
+        FinishRound();
+        return;
+    }
+    const bool painted = HasRoundToFinish();
+    FinishRound();
+    if (!timers_.empty()) {
+        FireNextTimer(std::ranges::min(timers_, {}, &RunningTimer::due).due);
+    } else if (!painted) {
+        throw std::logic_error("the program waits for an event, and none can come any more");
+    }
+}
+
+void HeadlessPlatform::StartTimer(Timer& timer, int after)
+{
+    StopTimer(timer);
+    timers_.push_back({milliseconds + after, &timer});
+}
+
+void HeadlessPlatform::StopTimer(Timer& timer)
+{
+    std::erase_if(timers_, [&timer](const RunningTimer& running) { return running.timer == &timer; });
+}
+
+void HeadlessPlatform::EndProgram()
+{
+    ended = true;
+}
+
+bool HeadlessPlatform::HasWork() const
+{
+    return !timers_.empty() || !meanwhile.empty() || HasRoundToFinish();
+}
+
+// --- pointer, clock and chance ---
+
+PixelPoint HeadlessPlatform::Cursor()
+{
+    return cursor;
+}
+
+void HeadlessPlatform::SetBusyPointer(bool isBusy)
+{
+    busy = isBusy;
+}
+
+DateTime HeadlessPlatform::Now()
+{
+    return now;
+}
+
+float HeadlessPlatform::SecondsSinceMidnight()
+{
+    constexpr double day = 24.0 * 60 * 60;
+    const double atStart = (now.hour * 60.0 + now.minute) * 60.0 + now.second;
+    return static_cast<float>(std::fmod(atStart + static_cast<double>(milliseconds) / 1000, day));
+}
+
+void HeadlessPlatform::SeedRandom(double seed)
+{
+    constexpr std::uint64_t spread = 0x9E3779B97F4A7C15U; // odd, so that no bit gets lost
+    mixedIn_ = (mixedIn_ + std::bit_cast<std::uint64_t>(seed)) * spread;
+    mixedIn_ ^= mixedIn_ >> 32U;
+}
+
+double HeadlessPlatform::RandomDraw()
+{
+    constexpr unsigned spareBits = 64 - 53; // a double holds 53
+    return std::ldexp(static_cast<double>((random_() ^ mixedIn_) >> spareBits), -53);
+}
+
+// --- fonts ---
+
+std::vector<std::string> HeadlessPlatform::ScreenFonts()
+{
+    return fonts;
+}
+
+Size HeadlessPlatform::TextSize(const Font& font, std::string_view text)
+{
+    int longest = 0;
+    int length = 0;
+    int lines = 1;
+    for (const char c : text) {
+        const bool continuesLetter = (static_cast<unsigned char>(c) & 0xC0U) == 0x80U;
+        if (c == '\n') {
+            longest = std::max(longest, std::exchange(length, 0));
+            ++lines;
+        } else if (c != '\r' && !continuesLetter) {
+            ++length;
+        }
+    }
+    longest = std::max(longest, length);
+    const Twips size = font.size * TwipsPerPoint;
+    return {longest * CharacterWidth * size, lines * LineHeight * size};
+}
+
+// --- the system's own boxes, and sound ---
+
+bool HeadlessPlatform::PlainMessage(const std::string& text, PlainButtons buttons)
+{
+    plainMessages.push_back(text);
+    if (plainAnswers.empty()) {
+        return buttons == PlainButtons::Ok;
+    }
+    const bool answer = plainAnswers.front();
+    plainAnswers.pop_front();
+    return answer;
+}
+
+std::string HeadlessPlatform::AskForText(const std::string& /*prompt*/)
+{
+    if (typedAnswers.empty()) {
+        return {};
+    }
+    std::string answer = std::move(typedAnswers.front());
+    typedAnswers.pop_front();
+    return answer;
+}
+
+std::string HeadlessPlatform::ChooseFile(const FileDialogRequest& request, Form* /*owner*/)
+{
+    fileDialogs.push_back(request);
+    if (chosenFiles.empty()) {
+        return {};
+    }
+    std::string answer = std::move(chosenFiles.front());
+    chosenFiles.pop_front();
+    return answer;
+}
+
+void HeadlessPlatform::PlayWave(const std::string& path)
+{
+    sounds.emplace_back(BareName(path));
+}
+
+// --- files ---
+
+bool HeadlessPlatform::FileOperationFails()
+{
+    const int operation = fileOperations++;
+    if (failingFileOperation < 0) {
+        return false;
+    }
+    return operation == failingFileOperation || (failsFromThere && operation > failingFileOperation);
+}
+
+std::string HeadlessPlatform::Resolved(const std::string& path) const
+{
+    if (path.starts_with('/')) {
+        return path;
+    }
+    return currentFolder.ends_with('/') ? currentFolder + path : currentFolder + '/' + path;
+}
+
+bool HeadlessPlatform::IsReadOnly(const std::string& resolved) const
+{
+    const std::string folder(FolderOf(resolved));
+    return readOnlyFolders.contains(folder) || readOnlyFolders.contains(folder + '/');
+}
+
+bool HeadlessPlatform::IsFolder(const std::string& resolved) const
+{
+    return resolved.ends_with('/') || files.contains(resolved + '/');
+}
+
+std::optional<std::string> HeadlessPlatform::ReadFile(const std::string& path)
+{
+    const std::string resolved = Resolved(path);
+    const auto file = files.find(resolved);
+    if (FileOperationFails() || file == files.end() || IsFolder(resolved)) {
+        return std::nullopt;
+    }
+    return file->second;
+}
+
+bool HeadlessPlatform::WriteNewFile(const std::string& path, std::string_view bytes)
+{
+    const std::string resolved = Resolved(path);
+    const bool fails = FileOperationFails();
+    if (IsReadOnly(resolved) || IsFolder(resolved)) {
+        return false;
+    }
+    files[resolved] = fails ? bytes.substr(0, bytes.size() / 2) : bytes;
+    return !fails;
+}
+
+bool HeadlessPlatform::RenameFile(const std::string& from, const std::string& to)
+{
+    const std::string source = Resolved(from);
+    const std::string target = Resolved(to);
+    const bool fails = FileOperationFails() || IsReadOnly(source) || IsReadOnly(target);
+    if (fails || IsFolder(source) || IsFolder(target) || !files.contains(source)) {
+        return false;
+    }
+    std::string bytes = std::move(files[source]);
+    files.erase(source);
+    files[target] = std::move(bytes);
+    return true;
+}
+
+void HeadlessPlatform::RemoveFile(const std::string& path)
+{
+    const std::string resolved = Resolved(path);
+    if (!IsReadOnly(resolved) && !IsFolder(resolved)) {
+        files.erase(resolved);
+    }
+}
+
+bool HeadlessPlatform::IsPlainFile(const std::string& path)
+{
+    const std::string resolved = Resolved(path);
+    return files.contains(resolved) && !IsFolder(resolved) && !hiddenFiles.contains(resolved);
+}
+
+std::string HeadlessPlatform::CurrentFolder()
+{
+    return currentFolder;
+}
+
+void HeadlessPlatform::ChangeFolder(const std::string& folder)
+{
+    currentFolder = Resolved(folder);
+    if (currentFolder.size() > 1 && currentFolder.ends_with('/')) {
+        currentFolder.pop_back();
+    }
+}
+
+} // namespace tessarine
