@@ -39,9 +39,13 @@ public:
     std::array<Image, IconCount> icons;
 
 private:
+    void DressControls();
+    void ReadStyle(std::string_view typ);
     void ActOn(const std::string& keyword);
     void AddButton(const std::string& caption, Whole result);
     void LayoutBox(Whole highest);
+    /// The button that Escape presses: the one that changes nothing. None if every answer does.
+    Control* HarmlessButton();
 
     Whole HighestButton = -1;
     Whole AnswerCode = 0;
