@@ -1,0 +1,23 @@
+#include "presentation/fan.h"
+
+namespace tessarine
+{
+
+void LayColumn(Table& table, int column)
+{
+    const Whole fullStep = table.shared().FanStep;
+    const Whole left = table.StackLeft[At(column)];
+    Whole top = table.StackTop[At(column)];
+    Whole step = RoundHalfEven(fullStep / 3.0);
+    for (const std::string& entry : table.Stacks[At(column)]) {
+        const int card = CardOfEntry(entry);
+        table.cardy[At(card)].Move(left, top);
+        table.cardy[At(card)].BringToFront();
+        if (table.IsFaceUp(card)) {
+            step = fullStep;
+        }
+        top += step;
+    }
+}
+
+} // namespace tessarine

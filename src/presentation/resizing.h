@@ -1,0 +1,29 @@
+// The table follows the window's width, a moment later.
+#pragma once
+
+#include "presentation/scaling.h"
+#include "runtime/timer.h"
+#include "table/table.h"
+
+namespace tessarine
+{
+
+class Resizing
+{
+public:
+    Resizing(Table& table, Scaling& scaling);
+
+    /// The window's size changed, for whatever reason: notes the ratio of the new width to that of
+    /// the last layout and starts the wait. Further changes during the wait are dropped.
+    void Form_Resize();
+
+private:
+    void Timer3_Timer();
+
+    Table& table_;
+    Scaling& scaling_;
+    Timer Timer3;
+    float ratio_ = 1;
+};
+
+} // namespace tessarine

@@ -1,0 +1,31 @@
+// The stock: a ring that turns either way for ever.
+#pragma once
+
+#include "table/table.h"
+
+namespace tessarine
+{
+
+/// The last entry of the stock's list is the showing one; the marker rides among the cards.
+class StockRing
+{
+public:
+    explicit StockRing(Table& table) : table_(table) {}
+
+    void NextStockCard();
+    void PrevStockCard();
+
+    /// Presses of the two buttons beside the stock.
+    void NextPressed();
+    void PrevPressed();
+
+private:
+    TextList& ring() { return table_.Stacks[At(StockStack)]; }
+    bool HoldsOnlyMarker() { return ring().Count() == 1; }
+    void ShowUsedUp();
+    void ShowLastEntry();
+
+    Table& table_;
+};
+
+} // namespace tessarine

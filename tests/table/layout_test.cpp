@@ -1,0 +1,121 @@
+#include "support/game_world.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+
+namespace tessarine::test
+{
+namespace
+{
+
+TEST(LayoutTest, TheFanOfAColumnAtTwoSizes)
+{
+    GameWorld world;
+    const std::vector<int> column = {40, 31, 22, Card('S', 7), Card('S', 6)};
+    world.Arrange({.columns = {column}, .stock = {1}, .faceDownInEachColumn = 3});
+    const auto tops = [&] {
+        std::vector<Twips> found;
+        for (const int card : column) {
+            found.push_back(world.table.cardy[At(card)].Top());
+        }
+        return found;
+    };
+    EXPECT_EQ(tops(), (std::vector<Twips>{700, 825, 950, 1075, 1450}));
+    world.form.scaling.ScaleTable(1.0F);
+    EXPECT_EQ(tops(), (std::vector<Twips>{700, 825, 950, 1075, 1450}));
+    world.form.scaling.ScaleTable(2.0F);
+    EXPECT_EQ(tops(), (std::vector<Twips>{1400, 1650, 1900, 2150, 2900}));
+    // Face-down cards and bases wear the button colour, faces their suit's.
+    EXPECT_EQ(world.table.cardy[40].BackColor(), world.form.shared.Button());
+    EXPECT_EQ(world.table.cardy[65].BackColor(), world.form.shared.Button());
+    EXPECT_EQ(world.table.cardy[7].BackColor(), world.form.shared.SuitColor[0]);
+    EXPECT_FALSE(world.table.cardy[52].Visible());
+}
+
+TEST(LayoutTest, EachNumberIsRoundedByItself)
+{
+    GameWorld world;
+    world.form.scaling.ScaleTable(0.5F);
+    EXPECT_EQ(world.form.shared.CardWidth, 202);
+    EXPECT_EQ(world.form.shared.FanStep, 188);
+    world.form.scaling.ScaleTable(2.0F);
+    EXPECT_EQ(world.form.shared.CardWidth, 404);
+    EXPECT_EQ(world.form.shared.FanStep, 376);
+}
+
+TEST(LayoutTest, FactorsThatCanNotServe)
+{
+    for (const float factor : {0.0F, -3.0F, std::nanf(""), std::numeric_limits<float>::infinity()}) {
+        GameWorld world;
+        world.form.scaling.ScaleTable(factor);
+        EXPECT_EQ(world.form.shared.CardWidth, 405) << factor;
+    }
+    GameWorld world;
+    world.form.scaling.ScaleTable(1e30F);
+    EXPECT_EQ(world.form.shared.CardWidth, 15000);
+    world.form.scaling.ScaleTable(1e-30F);
+    EXPECT_EQ(world.form.shared.CardWidth, 120);
+    EXPECT_EQ(world.Fault(), "");
+}
+
+TEST(ResizingTest, TheWindowSnapsToTheTable)
+{
+    GameWorld world;
+    const auto resizeTo = [&](Twips outerWidth, Twips outerHeight) {
+        world.form.FeedResize({outerWidth - FrameWidth, outerHeight - FrameHeight});
+    };
+    resizeTo(5100, 8115);
+    EXPECT_EQ(world.form.shared.CardWidth, 405) << "only after the wait";
+    resizeTo(6000, 8115); // dropped: the first of the period counts
+    world.platform.Advance(100);
+    EXPECT_EQ(world.form.shared.CardWidth, 506);
+    EXPECT_EQ(world.form.shared.CardHeight, 469);
+    EXPECT_EQ(world.table.SlotLeft[59], 4250);
+    EXPECT_EQ(world.table.Picture2.Width(), 4856);
+    EXPECT_EQ(world.form.OuterWidth(), 5025) << "5031 brought to whole pixels";
+    EXPECT_FALSE(world.platform.HasWork()) << "the snap starts no further rescale";
+
+    resizeTo(5025, 5000);
+    world.platform.Advance(100);
+    EXPECT_EQ(world.form.shared.CardWidth, 506);
+    EXPECT_EQ(world.table.Picture2.Height(), 4000);
+    EXPECT_FALSE(world.platform.HasWork());
+}
+
+TEST(ResizingTest, AWindowThatRefusesKeepsItsWidth)
+{
+    GameWorld world;
+    world.platform.refusesSize.insert(&world.form);
+    world.form.FeedResize({12000 - FrameWidth, 8000});
+    world.platform.Advance(100);
+    EXPECT_EQ(world.form.OuterWidth(), 12000);
+    EXPECT_EQ(world.form.shared.LastFormWidth, 12000);
+    EXPECT_NEAR(world.form.shared.CardWidth, 405 * 12000.0 / 4080, 1);
+    EXPECT_FALSE(world.platform.HasWork());
+    // A window too low for any table.
+    world.form.FeedResize({12000 - FrameWidth, 100});
+    world.platform.Advance(100);
+    EXPECT_GE(world.table.Picture2.Height(), 0);
+}
+
+TEST(TableDescriptionTest, WhatAListenerIsTold)
+{
+    GameWorld world;
+    world.Arrange({.columns = {{}, {30, Card('H', 7)}},
+                   .stock = {Card('C', 2), Card('S', 3)},
+                   .piles = {{Card('D', 0), Card('D', 1)}},
+                   .faceDownInEachColumn = 1});
+    const auto told = [&](int item) { return world.table.cardy[At(item)].AccessibleName(); };
+    EXPECT_EQ(told(Card('H', 7)), "7 of H, column 2");
+    EXPECT_EQ(told(30), "face-down card, column 2");
+    EXPECT_EQ(told(FirstColumnBase), "empty column 1");
+    EXPECT_EQ(told(Card('S', 3)), "3 of S, stock");
+    EXPECT_EQ(told(Card('C', 2)), "");
+    EXPECT_EQ(told(Card('D', 1)), "1 of D, finished pile 1");
+    EXPECT_EQ(told(Card('D', 0)), "");
+}
+
+} // namespace
+} // namespace tessarine::test
