@@ -1,0 +1,300 @@
+#include "appearance/options_dialog.h"
+
+#include "appearance/make_scheme.h"
+#include "appearance/readable_on.h"
+#include "appearance/scheme_file.h"
+
+#include <utility>
+
+namespace tessarine
+{
+namespace
+{
+
+constexpr Size ClientArea{9120, 4155};
+constexpr const char* ListFont = "Courier New";
+constexpr const char* Silent = "X";
+
+void Place(Container& on, Control& control, Twips left, Twips top, Twips width, Twips height)
+{
+    control.SetBounds(left, top, width, height);
+    on.Add(control);
+}
+
+void PlaceButton(Container& on, BoxControl& button, const char* caption, Twips left, Twips top)
+{
+    Place(on, button, left, top, 1005, 375);
+    button.SetBackColor(ButtonFace);
+    button.SetCaption(caption);
+}
+
+void Paint(Control& control, Colour colour)
+{
+    control.SetBackColor(colour);
+    control.SetForeColor(ReadableOn(colour));
+}
+
+} // namespace
+
+Form6::Form6(Forms& forms, Module1& module, SchemeStore& store, MsgForm& messageBox, const Sound& sound,
+             std::function<void()> command2)
+    : Form(forms, "Tessarine Options", ClientArea), module_(module), store_(store),
+      messageBox_(messageBox), sound_(sound), command2_(std::move(command2)),
+      commands_(forms.platform(), module, store, List1)
+{
+    PlaceControls();
+    NameControls();
+    List2.FillWhenAsked([this] { return platform().ScreenFonts(); });
+    // The pickers took their first colour while they were placed, with nobody listening.
+    HearSchemeGroup();
+    HearOthers();
+    CancelControl = &command4;
+}
+
+void Form6::PlaceControls()
+{
+    PlaceSchemeGroup();
+    PlaceSoundGroup();
+    PlaceButton(*this, command3, "Apply", 210, 3540);
+    PlaceButton(*this, command4, "Exit", 1215, 3540);
+    PlaceCardColourGroup();
+    PlaceFontGroup();
+}
+
+void Form6::PlaceSchemeGroup()
+{
+    Place(*this, Frame5, 60, 60, 4335, 3210);
+    Frame5.SetCaption("Colour Scheme");
+    Place(Frame5, ColPik1, 150, 270, 2025, 1635);
+    Place(Frame5, ContrastV, 106, 2010, 2064, 228);
+    ContrastV.SetRange(-100, 300, 5, 20);
+    ContrastV.SetValue(PlainContrast);
+    PlaceButton(Frame5, showsch, "View", 60, 2340);
+    PlaceButton(Frame5, repsch, "Replace", 1110, 2340);
+    PlaceButton(Frame5, delsch, "Delete", 60, 2715);
+    PlaceButton(Frame5, addsch, "Add", 1110, 2715);
+    Place(Frame5, List1, 2295, 240, 1920, 2805);
+    List1.SetFontName(ListFont);
+}
+
+void Form6::PlaceSoundGroup()
+{
+    Place(*this, Frame1, 2370, 3300, 2025, 825);
+    Frame1.SetCaption("Sound");
+    Place(Frame1, Check1, 270, 330, 1425, 285);
+    Check1.SetCaption("Yes");
+}
+
+void Form6::PlaceCardColourGroup()
+{
+    Place(*this, Frame3, 4485, 60, 2265, 4065);
+    Frame3.SetCaption("Card Colour");
+    Place(Frame3, ColPik2, 120, 270, 2025, 1605);
+    Place(Frame3, Frame7, 120, 1950, 2025, 1545);
+    Frame7.SetCaption("Numbers");
+    for (std::size_t suit = 0; suit < NumbersOption; ++suit) {
+        Place(Frame7, NumCol[suit], 120, 270 + 240 * static_cast<Twips>(suit), 1800, 210);
+        NumCol[suit].SetCaption("Colour " + std::to_string(suit + 1));
+    }
+    PlaceButton(Frame3, cmdreset, "Reset", 270, 3570);
+}
+
+void Form6::PlaceFontGroup()
+{
+    Place(*this, Frame6, 6840, 60, 2235, 4065);
+    Frame6.SetCaption("Font");
+    Place(Frame6, List2, 180, 300, 1845, 2370);
+    List2.SetFontName(ListFont);
+    Place(Frame6, Label1, 750, 2880, 645, 585);
+    Label1.SetFont({.name = "Arial", .size = 24, .bold = true});
+    Label1.SetAlign(Alignment::Centre);
+    Label1.SetBorder(true);
+    Label1.SetCaption("1");
+    Place(Frame6, NumCol[NumbersOption], 210, 3630, 1800, 210);
+    NumCol[NumbersOption].SetCaption("Colour");
+}
+
+void Form6::NameControls()
+{
+    const auto name = [](Control& control, std::string text) {
+        control.Describe = [text = std::move(text)] { return text; };
+    };
+    name(ColPik1, "Background colour");
+    name(ColPik2, "Card colour");
+    name(ContrastV, "Contrast");
+    name(List1, "Colour schemes");
+    name(List2, "Fonts");
+    name(Label1, "Sample of the font");
+    name(Check1, "Sound: yes");
+    static constexpr std::array<char, Suits> letters = {'S', 'H', 'D', 'C', 'O'};
+    for (std::size_t suit = 0; suit < NumbersOption; ++suit) {
+        name(NumCol[suit], NumCol[suit].Caption() + ", suit " + letters[suit]);
+    }
+    name(NumCol[NumbersOption], "Colour of the numbers");
+}
+
+void Form6::HearSchemeGroup()
+{
+    ColPik1.SelColor = [this](Colour colour) { module_.SchemeColors[BackgroundSlot] = colour; };
+    ContrastV.OnChange = [this] {
+        if (ContrastV.Tag != Silent) {
+            PreviewMadeScheme();
+        }
+    };
+    List1.OnMouseUp = [this](const MouseEvent&) { PreviewSelectedScheme(); };
+    showsch.OnMouseUp = [this](const MouseEvent&) { PreviewMadeScheme(); };
+    repsch.OnMouseUp = [this](const MouseEvent&) { commands_.Replace(); };
+    delsch.OnMouseUp = [this](const MouseEvent&) { commands_.Delete(); };
+    addsch.OnMouseUp = [this](const MouseEvent&) { commands_.Add(); };
+}
+
+void Form6::HearOthers()
+{
+    ColPik2.SelColor = [this](Colour colour) { TakeCardColour(colour); };
+    for (std::size_t option = 0; option < NumColCount; ++option) {
+        NumCol[option].OnMouseUp = [this, option](const MouseEvent&) { EditColourOf(option); };
+    }
+    List2.OnMouseUp = [this](const MouseEvent&) { ShowSelectedFont(); };
+    Check1.OnMouseUp = [this](const MouseEvent&) { SwitchSound(); };
+    cmdreset.OnMouseUp = [this](const MouseEvent&) { Reset(); };
+    command3.OnMouseUp = [this](const MouseEvent&) { Apply(); };
+    command4.OnMouseUp = [this](const MouseEvent&) { Hide(); };
+}
+
+void Form6::OnActivate()
+{
+    ResetContrastQuietly();
+    ColPik1.SetSchemeColor(module_.Background());
+    ColPik2.SetSchemeColor(module_.PanelColor);
+    PaintOptions();
+    ShowNumColours();
+    Label1.SetFontName(module_.CardFont);
+    SelectCardFont();
+    Check1.SetValue(module_.SoundOn == Yes);
+}
+
+void Form6::ResetContrastQuietly()
+{
+    ContrastV.Tag = Silent;
+    ContrastV.SetValue(PlainContrast);
+    ContrastV.Tag.clear();
+}
+
+void Form6::SelectCardFont()
+{
+    if (const auto found = List2.Items().Find(module_.CardFont)) {
+        List2.Select(found);
+        List2.SetTopIndex(*found);
+    }
+}
+
+void Form6::PaintOptions()
+{
+    SetBackColor(module_.Background());
+    Label1.SetBackColor(module_.Background());
+    for (Control* surface : std::initializer_list<Control*>{&List1, &List2, &Check1, &Frame1, &Frame3,
+                                                            &Frame5, &Frame6, &Frame7}) {
+        Paint(*surface, module_.Background());
+    }
+    for (Control* button : std::initializer_list<Control*>{&cmdreset, &addsch, &delsch, &showsch,
+                                                           &repsch, &command3, &command4}) {
+        Paint(*button, module_.Button());
+    }
+}
+
+void Form6::ShowNumColours()
+{
+    for (std::size_t suit = 0; suit < NumbersOption; ++suit) {
+        NumCol[suit].SetEnabled(true);
+        Paint(NumCol[suit], module_.SuitColor[suit]);
+    }
+    Paint(NumCol[NumbersOption], module_.CardTextColor);
+    Label1.SetForeColor(PaletteColour(0));
+}
+
+/// With the slider away from the plain contrast, putting it back runs the other preview in here, which
+/// makes the colours anew from the background just read.
+void Form6::PreviewSelectedScheme()
+{
+    const Colour background = store_.PreviewScheme(List1.SelectedText().append(SchemeSuffix));
+    ColPik1.SetSchemeColor(background);
+    ContrastV.SetValue(PlainContrast);
+    PaintOptions();
+}
+
+void Form6::PreviewMadeScheme()
+{
+    MakeScheme(module_, ColPik1.SchemeColor(), ContrastV.Value());
+    PaintOptions();
+}
+
+void Form6::TakeCardColour(Colour colour)
+{
+    for (std::size_t suit = 0; suit < NumbersOption; ++suit) {
+        if (NumCol[suit].Enabled() && NumCol[suit].Value()) {
+            Paint(NumCol[suit], colour);
+            module_.SuitColor[suit] = colour;
+        }
+    }
+    if (NumCol[NumbersOption].Enabled() && NumCol[NumbersOption].Value()) {
+        Paint(NumCol[NumbersOption], colour);
+        module_.CardTextColor = colour;
+    }
+}
+
+void Form6::EditColourOf(std::size_t option)
+{
+    ColPik2.SetSchemeColor(NumCol[option].BackColor());
+    ShowNumColours();
+}
+
+void Form6::ShowSelectedFont()
+{
+    Label1.SetFontItalic(false);
+    Label1.SetFontBold(false);
+    if (List2.Selected()) {
+        Label1.SetFontName(List2.SelectedText());
+    }
+}
+
+void Form6::SwitchSound()
+{
+    if (Check1.Value()) {
+        module_.SoundOn = Yes;
+        sound_.PlayWav("_soundonoff.wav");
+    } else {
+        module_.SoundOn = No;
+    }
+}
+
+void Form6::Apply()
+{
+    if (const std::string scheme = List1.SelectedText(); !scheme.empty()) {
+        module_.SchemeFile = scheme + std::string(SchemeSuffix);
+    }
+    module_.CardFont = Label1.Font().name;
+    for (std::size_t suit = 0; suit < NumbersOption; ++suit) {
+        module_.SuitColor[suit] = NumCol[suit].BackColor();
+    }
+    module_.CardTextColor = NumCol[NumbersOption].BackColor();
+    module_.SoundOn = Check1.Value() ? Yes : No;
+    command2_();
+}
+
+void Form6::Reset()
+{
+    if (messageBox_.MsgboxA("Reset Card Colours and Font?", "vbyesno+vbinformation", -1, -1) !=
+        AnswerYes) {
+        return;
+    }
+    for (std::size_t suit = 0; suit < NumbersOption; ++suit) {
+        module_.SuitColor[suit] = PaletteColour(static_cast<int>(suit));
+        NumCol[suit].SetBackColor(module_.SuitColor[suit]);
+    }
+    NumCol[NumbersOption].SetBackColor(PaletteColour(15));
+    Label1.SetFontName("Arial");
+    Apply();
+    ShowNumColours();
+}
+
+} // namespace tessarine
