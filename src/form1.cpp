@@ -1,0 +1,170 @@
+#include "form1.h"
+
+#include "appearance/make_scheme.h"
+#include "kit/icons.h"
+#include "presentation/places.h"
+#include "runtime/files.h"
+
+namespace tessarine
+{
+
+Form1::Form1(Platform& platform, const std::string& programPath, const std::string& programName)
+    : OwnedForms(platform), Form(OwnedForms::list, GameTitle, places::DesignArea),
+      sound(platform, shared.AppDir, shared.SoundOn), msgForm(list), form4(list, shared),
+      aboutForm(list, shared), table(*this, shared, sound), Score1(platform, programName), undo(table),
+      deal(table, [this] { undo.Clear(); }), ring(table), drops(table, ring, undo),
+      automove(table, drops, [this] { gameCommands.GameWon(); }),
+      gestures(table, ring, drops, undo, automove), scaling(table, NextCard), resizing(table, scaling),
+      configuration(platform, shared, msgForm), gameFile(table, deal, scaling, ring, msgForm),
+      gameCommands({table, deal, scaling, ring, undo, gameFile, Score1, msgForm, gf1}),
+      schemeStore(shared, msgForm),
+      form6(list, shared, schemeStore, msgForm, sound, [this] { Command2_Click(); }),
+      programCommands({*this, form6, form4, aboutForm, msgForm, configuration, Score1, shared, sound})
+{
+    shared.AppDir = WithSeparator(platform, programPath);
+    shared.AllColFile = shared.AppDir + "all.col";
+    Sizable = true;
+    TakesKeys = false; // the game is played with the mouse
+    SetIcon(icons::Program());
+    PlaceControls();
+    ConnectButtons();
+    gestures.Attach();
+}
+
+void Form1::PlaceControls()
+{
+    PlaceCommandRow();
+    Add(table.Picture2);
+    table.Picture2.Move(places::SurfaceLeft, places::SurfaceTop);
+    NextCard[0].SetCaption("<");
+    NextCard[0].Describe = [] { return std::string("Turn the stock back"); };
+    NextCard[1].SetCaption(">");
+    NextCard[1].Describe = [] { return std::string("Turn the stock"); };
+    table.Picture2.Add(NextCard[0]);
+    table.Picture2.Add(NextCard[1]);
+    table.Picture2.Add(Score1);
+    Score1.SetBounds(places::ScoresLeft, places::ScoresTop, places::ScoresWidth, places::ScoresHeight);
+    Add(gf1);
+    gf1.SetVisible(false);
+}
+
+void Form1::PlaceCommandRow()
+{
+    struct Place {
+        BoxControl& button;
+        const char* toolTip;
+        const Picture& icon;
+    };
+    const std::array<Place, 10> row = {{
+        {cmdLoadGame, "Load Saved Game", icons::OpenFolder()},
+        {cmdSaveGame, "Save Game", icons::FloppyDisk()},
+        {cmdscore, "Scores", icons::ScoreSheet()},
+        {cmdopts, "Options", icons::ColourStripes()},
+        {cmdnewgame, "New Game", icons::SheetWithCheckMark()},
+        {cmdreset, "Restore current game", icons::SheetWithTurningArrows()},
+        {cmdabout, "About", icons::ExclamationInRing()},
+        {cmdhelp, "Help", icons::QuestionMark()},
+        {cmdexit, "Exit", icons::DoorWithArrow()},
+        {cmdundo, "Undo", icons::ArrowPointingBack()},
+    }};
+    Twips left = places::RowLeft;
+    for (const Place& place : row) {
+        place.button.SetBounds(left, places::RowTop, places::RowButton, places::RowButton);
+        place.button.SetToolTip(place.toolTip);
+        place.button.SetPicture(place.icon);
+        Add(place.button);
+        left += places::RowButton;
+    }
+}
+
+void Form1::ConnectButtons()
+{
+    // A release of any mouse button, wherever the pointer is, presses the button.
+    const auto onPress = [](Control& button, auto action) {
+        button.OnMouseUp = [action](const MouseEvent&) { action(); };
+    };
+    onPress(cmdLoadGame, [this] { gameCommands.cmdLoadGame_MouseUp(); });
+    onPress(cmdSaveGame, [this] { gameCommands.cmdSaveGame_MouseUp(); });
+    onPress(cmdscore, [this] { programCommands.cmdscore_MouseUp(); });
+    onPress(cmdopts, [this] { programCommands.cmdopts_MouseUp(); });
+    onPress(cmdnewgame, [this] { gameCommands.cmdnewgame_MouseUp(); });
+    onPress(cmdreset, [this] { gameCommands.cmdreset_MouseUp(); });
+    onPress(cmdabout, [this] { programCommands.cmdabout_MouseUp(); });
+    onPress(cmdhelp, [this] { programCommands.cmdhelp_MouseUp(); });
+    onPress(cmdexit, [this] { programCommands.cmdexit_MouseUp(); });
+    onPress(cmdundo, [this] { undo.Pressed(); });
+    onPress(NextCard[0], [this] { ring.PrevPressed(); });
+    onPress(NextCard[1], [this] { ring.NextPressed(); });
+    Score1.OnCloseButton = [this] { Score1.SetVisible(false); };
+}
+
+void Form1::Start()
+{
+    Score1.Start();
+    Load();
+    Show();
+}
+
+/// The order matters: the configuration names the scheme, the first item takes a colour of the scheme,
+/// and the places of the stacks come from the first deal, before any scaling.
+void Form1::Form_Load()
+{
+    Score1.SetVisible(false);
+    shared.LastFormWidth = RoundHalfEven(OuterWidth());
+    DressMessageBox();
+    form6.FillSchemeList();
+    configuration.ReadcfgFile();
+    FillBuiltInScheme(shared);
+    schemeStore.ReadScheme(shared.SchemeFile);
+    ApplyScheme(shared, Wearers());
+    table.CreateCards();
+    deal.NewDeal();
+    TakePlacesOfStacks();
+    scaling.ScaleTable(shared.CardScale);
+    ring.NextStockCard();
+    gameFile.SaveCardOrder(shared.AppDir + "tempgame.txt");
+}
+
+void Form1::DressMessageBox()
+{
+    msgForm.SetBackColor(ButtonFace);
+    msgForm.ButtonColour = ButtonFace;
+    msgForm.SetFont({"Ariel", 9, false, false, false});
+    msgForm.SetForeColor(PaletteColour(0));
+    msgForm.SetCaption(GameTitle);
+}
+
+/// The only time that places come from the items; from here on scaling keeps them.
+void Form1::TakePlacesOfStacks()
+{
+    for (int stack = 0; stack < StockStack; ++stack) {
+        const Label& base = table.cardy[At(SlotOf(stack))];
+        table.StackLeft[At(stack)] = RoundHalfEven(base.Left());
+        table.StackTop[At(stack)] = RoundHalfEven(base.Top());
+    }
+    const auto takeSlot = [this](int stack) {
+        table.StackLeft[At(stack)] = table.SlotLeft[At(SlotOf(stack))];
+        table.StackTop[At(stack)] = table.SlotTop[At(SlotOf(stack))];
+    };
+    takeSlot(StockStack);
+    for (int pile = FirstPile; pile < FirstPile + Piles; ++pile) {
+        takeSlot(pile);
+    }
+}
+
+void Form1::Command2_Click()
+{
+    schemeStore.ReadScheme(shared.SchemeFile);
+    ApplyScheme(shared, Wearers());
+    scaling.ScaleTable(1.0F);
+}
+
+SchemeWearers Form1::Wearers()
+{
+    return {{&Score1, this, &table.Picture2, &table.cardy[0]},
+            {&cmdnewgame, &cmdreset, &cmdundo, &cmdLoadGame, &cmdSaveGame, &cmdabout, &cmdexit, &cmdopts,
+             &cmdscore, &cmdhelp, &NextCard[0], &NextCard[1]},
+            msgForm};
+}
+
+} // namespace tessarine

@@ -1,0 +1,52 @@
+// The commands that act on the game as a whole, and its end.
+#pragma once
+
+#include "kit/file_chooser.h"
+#include "kit/message_box.h"
+#include "presentation/scaling.h"
+#include "store/game_file.h"
+#include "store/scores.h"
+#include "table/deal.h"
+#include "table/stock_ring.h"
+#include "table/table.h"
+#include "table/undo.h"
+
+namespace tessarine
+{
+
+class GameCommands
+{
+public:
+    /// What the commands touch.
+    struct Rooms {
+        Table& table;
+        Deal& deal;
+        Scaling& scaling;
+        StockRing& ring;
+        Undo& undo;
+        GameFile& gameFile;
+        ScoresBox& scores;
+        MsgForm& messages;
+        FNDialog& chooser;
+    };
+    explicit GameCommands(const Rooms& rooms) : rooms_(rooms) {}
+
+    // Presses of the buttons.
+    void cmdnewgame_MouseUp();
+    void cmdSaveGame_MouseUp();
+    void cmdLoadGame_MouseUp();
+    void cmdreset_MouseUp();
+
+    /// All cards are on finished piles: tells it, counts it and deals the next game.
+    void GameWon();
+
+private:
+    void DealNextGame();
+    void BringPilesForward();
+    Platform& platform() const { return rooms_.table.form().platform(); }
+    std::string InAppDir(std::string_view name) const;
+
+    Rooms rooms_;
+};
+
+} // namespace tessarine

@@ -1,0 +1,196 @@
+#include "store/scores.h"
+
+#include "runtime/files.h"
+#include "store/scramble.h"
+
+namespace tessarine
+{
+namespace
+{
+
+constexpr std::string_view ZeroCounts = " 0 0 0 0 0 ";
+
+struct Bounds {
+    Twips left;
+    Twips top;
+    Twips width;
+    Twips height;
+};
+
+void Place(Container& on, Control& control, const Bounds& bounds)
+{
+    control.SetBounds(bounds.left, bounds.top, bounds.width, bounds.height);
+    on.Add(control);
+}
+
+std::vector<std::string> FieldsOf(std::string_view line)
+{
+    std::vector<std::string> fields;
+    for (auto blank = line.find(' '); blank != std::string_view::npos; blank = line.find(' ')) {
+        fields.emplace_back(line.substr(0, blank));
+        line.remove_prefix(blank + 1);
+    }
+    fields.emplace_back(line);
+    return fields;
+}
+
+void CountUp(Label& counter)
+{
+    counter.SetCaption(std::to_string(std::int64_t{WholeAtStart(counter.Caption())} + 1));
+}
+
+} // namespace
+
+ScoresBox::ScoresBox(Platform& platform, const std::string& programName)
+    : platform_(platform), file_(programName + ".sco")
+{
+    Frame1.SetCaption(programName + " Scores");
+    PlaceParts();
+    Command1.SetCaption("Close");
+    Command1.OnMouseUp = [this](const MouseEvent&) {
+        if (OnCloseButton) {
+            OnCloseButton();
+        }
+    };
+    Command2.SetCaption("Clear");
+    Command2.OnMouseUp = [this](const MouseEvent&) { AskAndClear(); };
+}
+
+void ScoresBox::PlaceParts()
+{
+    const tessarine::Font head{"Arial", 9, true, false, false};
+    const tessarine::Font counter{"Courier New", 9, false, false, false};
+    Place(*this, Frame1, {60, 60, 3675, 2865});
+
+    static constexpr std::array<const char*, Rows - 1> titles = {"Played ", "Won ", "Drawn ", "Lost "};
+    static constexpr std::array<Twips, Rows - 1> titleTops = {600, 855, 1140, 1425};
+    static constexpr std::array<Twips, Rows> rowTops = {300, 600, 885, 1170, 1455};
+    for (std::size_t row = 0; row < titles.size(); ++row) {
+        Titles[row].SetCaption(titles[row]);
+        Place(Frame1, Titles[row], {90, titleTops[row], 1005, row == 0 ? 225.0 : 255.0});
+    }
+    for (std::size_t row = Head; row < Rows; ++row) {
+        const bool isHead = row == Head;
+        ThisSession[row].SetCaption(isHead ? " This Session" : "0");
+        AllSessions[row].SetCaption(isHead ? " Total" : "0");
+        Place(Frame1, ThisSession[row], {1215, rowTops[row], isHead ? 1275.0 : 900.0, 255});
+        Place(Frame1, AllSessions[row], {2565, rowTops[row], isHead ? 1005.0 : 900.0, 255});
+        for (Label* label : {&ThisSession[row], &AllSessions[row]}) {
+            label->SetFont(counter);
+        }
+    }
+    for (Label* label :
+         {&Titles[0], &Titles[1], &Titles[2], &Titles[3], &ThisSession[Head], &AllSessions[Head]}) {
+        label->SetFont(head);
+        label->SetBackColor(Black);
+        label->SetForeColor(White);
+    }
+    Label1.SetFont(counter);
+    Label1.SetOpaque(false);
+    Place(Frame1, Label1, {90, 1890, 3465, 345});
+    Place(Frame1, Command1, {750, 2340, 1095, 405});
+    Place(Frame1, Command2, {1845, 2340, 1095, 405});
+}
+
+/// The parts wear the panel's own colour.
+void ScoresBox::Restyled()
+{
+    UserControl::Restyled();
+    const Colour colour = BackColor();
+    for (Control* part : std::initializer_list<Control*>{&Frame1, &Command1, &Command2}) {
+        part->SetBackColor(colour);
+    }
+    for (std::size_t row = Played; row < Rows; ++row) {
+        ThisSession[row].SetBackColor(colour);
+        AllSessions[row].SetBackColor(colour);
+    }
+}
+
+void ScoresBox::Start()
+{
+    const auto text = platform_.ReadFile(file_);
+    if (text && !text->empty()) {
+        ShowScores(UnscrambleLine(SplitLines(*text).front()));
+        return;
+    }
+    const std::string line = Today() + " 0" + std::string(ZeroCounts);
+    // A file that is there but can't be read is left alone.
+    if (text || !platform_.IsPlainFile(file_)) {
+        Write(line);
+    }
+    ShowScores(line);
+}
+
+void ScoresBox::SetWonSession(bool value)
+{
+    won_ = value;
+    Count(Won);
+}
+
+void ScoresBox::SetDrawnSession(bool value)
+{
+    drawn_ = value;
+    Count(Drawn);
+}
+
+void ScoresBox::SetLostSession(bool value)
+{
+    lost_ = value;
+    Count(Lost);
+}
+
+void ScoresBox::Count(Row row)
+{
+    CountUp(ThisSession[Played]);
+    CountUp(ThisSession[row]);
+    CountUp(AllSessions[row]);
+    CountUp(AllSessions[Played]);
+    SaveScores();
+}
+
+/// A count that can't be written stays in the panel, and the next one writes it too.
+void ScoresBox::SaveScores()
+{
+    std::string line = Today() + ' ';
+    for (std::size_t row = Played; row < Rows; ++row) {
+        line += AllSessions[row].Caption() + ' ';
+    }
+    Write(line);
+}
+
+bool ScoresBox::Write(const std::string& line)
+{
+    return ReplaceFile(platform_, file_, ScrambleLine(line) + std::string(LineEnd));
+}
+
+void ScoresBox::ShowScores(std::string_view line)
+{
+    std::vector<std::string> fields = FieldsOf(line);
+    if (fields.size() < Rows) {
+        fields = FieldsOf(Today() + std::string(ZeroCounts));
+    }
+    for (std::size_t row = Played; row < Rows; ++row) {
+        ThisSession[row].SetCaption("0");
+        AllSessions[row].SetCaption(TrimBlanks(fields[row]));
+    }
+    Label1.SetCaption("Last Update: " + fields[0]);
+}
+
+void ScoresBox::AskAndClear()
+{
+    if (!platform_.PlainMessage("Clear ALL scores", PlainButtons::YesNo)) {
+        return;
+    }
+    const std::string line = Today() + std::string(ZeroCounts);
+    Write(line);
+    ShowScores(line);
+}
+
+/// Day, month and year with nothing between them: "14Mar2008".
+std::string ScoresBox::Today() const
+{
+    const DateTime now = platform_.Now();
+    return TwoDigits(now.day) + now.shortMonth + std::to_string(now.year);
+}
+
+} // namespace tessarine

@@ -1,0 +1,167 @@
+#include "support/game_world.h"
+
+#include "store/scramble.h"
+#include "store/value_stream.h"
+
+#include <gtest/gtest.h>
+
+namespace tessarine::test
+{
+namespace
+{
+
+TEST(ConfigurationTest, ANewFileByteForByte)
+{
+    GameWorld world;
+    world.platform.files.erase("/app/tessarine.cfg");
+    world.platform.AnswerModal("Ok");
+    world.form.configuration.ReadcfgFile();
+    EXPECT_EQ(world.platform.files["/app/tessarine.cfg"], "03-14-2008 15:09:26\r\n"
+                                                          " 1             16777215      0 \r\n"
+                                                          " 1 \r\n"
+                                                          " 0 \r\n"
+                                                          " 8388608 \r\n"
+                                                          " 32768 \r\n"
+                                                          " 32896 \r\n"
+                                                          " 128 \r\n"
+                                                          "default.col\r\n"
+                                                          "arial\r\n");
+}
+
+TEST(ConfigurationTest, RoundTripKeepsEveryValue)
+{
+    GameWorld world;
+    Module1& shared = world.form.shared;
+    shared.CfgSpare = -12345678;
+    shared.CardTextColor = 7;
+    shared.SoundOn = 2;
+    shared.CardScale = 1.2493827F;
+    shared.SuitColor = {1, 2, 3, 4, 16777215};
+    shared.SchemeFile = "blue lagoon.col";
+    shared.CardFont = "Courier New";
+    world.form.configuration.SavecfgFile();
+    const Module1 written = shared;
+    shared.CfgSpare = 0;
+    shared.CardScale = 0;
+    shared.SuitColor = {};
+    shared.CardFont.clear();
+    world.form.configuration.ReadcfgFile();
+    EXPECT_EQ(shared.CfgSpare, written.CfgSpare);
+    EXPECT_EQ(shared.SoundOn, 2);
+    EXPECT_EQ(shared.CardScale, written.CardScale);
+    EXPECT_EQ(shared.SuitColor, written.SuitColor);
+    EXPECT_EQ(shared.SchemeFile, "blue lagoon.col");
+    EXPECT_EQ(shared.CardFont, "Courier New");
+    EXPECT_EQ(world.platform.unscriptedModals, 0);
+}
+
+TEST(ConfigurationTest, ReadsValuesNotLinesAndGivesUpWhatEndsEarly)
+{
+    const std::string rest = "9\r\n8\r\n7\r\n6\r\n5\r\n";
+    struct Case {
+        std::string text;
+        bool reads;
+        float scale;
+        std::string font;
+    };
+    const std::vector<Case> cases = {
+        {"\r\n1\r\n2,3\r\n1.5\r\n" + rest + "a.col\r\nx y\r\n", true, 1.5F, "x y"},
+        {"any, thing\n 1 2 3\n nonsense\n" + rest + "a.col\narial", true, 0, "arial"},
+        {"\r\n1 2 3 1\r\n" + rest + "a,b.col\r\narial\r\n", true, 1, "b.col"},
+        {"\r\n1 2 3 4\r\n" + rest + "a.col\r\n", false, 1, "arial"},
+        {"", false, 1, "arial"},
+        {"only a stamp\r\n", false, 1, "arial"}};
+    for (const Case& one : cases) {
+        GameWorld world;
+        world.platform.files["/app/tessarine.cfg"] = one.text;
+        if (!one.reads) {
+            world.platform.AnswerModal("Ok");
+        }
+        world.form.configuration.ReadcfgFile();
+        EXPECT_EQ(world.platform.modalCaptions.size(), one.reads ? 0U : 1U) << one.text;
+        EXPECT_EQ(world.form.shared.CardScale, one.scale) << one.text;
+        EXPECT_EQ(world.form.shared.CardFont, one.font) << one.text;
+    }
+}
+
+TEST(ScrambleTest, ComesBackWhateverTheLength)
+{
+    std::string text;
+    for (int length = 0; length < 200; ++length) {
+        EXPECT_EQ(UnscrambleLine(ScrambleLine(text)), text);
+        EXPECT_EQ(ScrambleLine(text).size(), text.size() * 2);
+        text += static_cast<char>(' ' + length % 95);
+    }
+    EXPECT_EQ(ScrambleLine("MIRTHN"), " 0 0 0 0 0 3");
+    EXPECT_EQ(UnscrambleLine("zz 0"), "MI");
+    EXPECT_EQ(UnscrambleLine(" 0 0 "), "MIR");
+}
+
+std::vector<std::string> Captions(const std::array<Label, ScoresBox::Rows>& labels)
+{
+    std::vector<std::string> captions;
+    for (std::size_t row = 1; row < labels.size(); ++row) {
+        captions.push_back(labels[row].Caption());
+    }
+    return captions;
+}
+
+TEST(ScoresTest, CountsReachTheFileAtOnce)
+{
+    GameWorld world;
+    const auto line = [&] {
+        return UnscrambleLine(world.platform.files["/run/tessarine.sco"].substr(0, 200));
+    };
+    EXPECT_EQ(line().substr(0, 22), "14Mar2008 0 0 0 0 0 0 ");
+    world.form.Score1.SetLostSession(true);
+    world.form.Score1.SetWonSession(false);
+    EXPECT_EQ(Captions(world.form.Score1.ThisSession), (std::vector<std::string>{"2", "1", "0", "1"}));
+    EXPECT_EQ(line().substr(0, 18), "14Mar2008 2 1 0 1 ");
+
+    world.platform.now.day = 5;
+    HeadlessPlatform platform;
+    platform.files = world.platform.files;
+    platform.now.day = 5;
+    ScoresBox again(platform, "tessarine");
+    again.Start();
+    EXPECT_EQ(Captions(again.AllSessions), (std::vector<std::string>{"2", "1", "0", "1"}));
+    EXPECT_EQ(Captions(again.ThisSession), (std::vector<std::string>{"0", "0", "0", "0"}));
+    again.SetDrawnSession(true);
+    EXPECT_EQ(again.Label1.Caption(), "Last Update: 14Mar2008");
+
+    // Clear: No changes nothing, Yes empties both columns.
+    again.Command2.MouseReleased({RightButton, 0, 0, 0});
+    EXPECT_EQ(Captions(again.AllSessions), (std::vector<std::string>{"3", "1", "1", "1"}));
+    platform.plainAnswers.push_back(true);
+    again.Command2.MouseReleased({LeftButton, 0, 0, 0});
+    EXPECT_EQ(Captions(again.AllSessions), (std::vector<std::string>{"0", "0", "0", "0"}));
+    EXPECT_EQ(again.Label1.Caption(), "Last Update: 05Mar2008");
+    EXPECT_EQ(platform.plainMessages,
+              (std::vector<std::string>{"Clear ALL scores", "Clear ALL scores"}));
+}
+
+TEST(ScoresTest, FilesOfNonsense)
+{
+    struct Case {
+        std::string file;
+        std::vector<std::string> shown;
+    };
+    const std::vector<Case> cases = {
+        {"hello\r\n", {"0", "0", "0", "0"}},
+        {ScrambleLine("14Mar2008 1 2"), {"0", "0", "0", "0"}},
+        {ScrambleLine("14Mar2008 x 2 3 4 more") + "\r\nsecond line", {"x", "2", "3", "4"}},
+        {ScrambleLine("d 2147483647 99999999999 -1 4"), {"2147483647", "99999999999", "-1", "4"}}};
+    for (const Case& one : cases) {
+        HeadlessPlatform platform;
+        platform.files["/run/tessarine.sco"] = one.file;
+        ScoresBox scores(platform, "tessarine");
+        scores.Start();
+        EXPECT_EQ(Captions(scores.AllSessions), one.shown);
+        EXPECT_EQ(platform.files["/run/tessarine.sco"], one.file) << "left alone until the next count";
+        scores.SetWonSession(true);
+        EXPECT_NE(platform.files["/run/tessarine.sco"], one.file);
+    }
+}
+
+} // namespace
+} // namespace tessarine::test
