@@ -1,0 +1,88 @@
+# shellcheck shell=bash
+# shellcheck disable=SC2034 # the lists are for whoever sources this
+# What ./play and ./test have in common: plain words, packages, and the build folder.
+# Sourced with the project's folder as the current directory.
+
+# What the program needs to be built and run; the libraries it runs with come along.
+play_packages=(cmake ninja-build g++ pkg-config qt6-base-dev libgl-dev qt6-wayland
+               libcanberra-dev libcanberra-pulse fonts-liberation)
+# What only the tests need.
+test_packages=(libgtest-dev libbenchmark-dev clang clang-format clang-tidy libclang-rt-dev
+               xvfb openbox xdotool wmctrl x11-utils x11-apps imagemagick)
+
+say() { printf '%s\n' "$*"; }
+
+fail() {
+    printf '%s\n' "$*" >&2
+    exit 1
+}
+
+# Those of the named packages that are not installed, one a line. A system without dpkg keeps its own
+# books: there the build says what it misses.
+missing_packages() {
+    command -v dpkg-query >/dev/null || return 0
+    local installed package
+    # A virtual package (such as a clang of some version) counts when something provides it.
+    installed=" $(dpkg-query -W -f='${db:Status-Status} ${Package} ${Provides}\n' 2>/dev/null |
+        sed -n 's/^installed //p' | tr ',\n' '  ') "
+    for package in "$@"; do
+        case $installed in *" $package "*) ;; *) say "$package" ;; esac
+    done
+}
+
+# Installs what is missing of the named packages, and says so. With nothing missing it costs nothing
+# and needs no network.
+ensure_packages() {
+    local missing as_root=() log
+    mapfile -t missing < <(missing_packages "$@")
+    [ ${#missing[@]} -eq 0 ] && return
+    if ! command -v apt-get >/dev/null; then
+        fail "These packages are missing, and there is no apt-get to install them with: ${missing[*]}"
+    fi
+    if [ "$(id -u)" -ne 0 ]; then
+        if ! command -v sudo >/dev/null; then
+            fail "Please have an administrator run: apt-get install ${missing[*]}"
+        fi
+        as_root=(sudo)
+        if [ ! -t 0 ] && ! sudo -n true 2>/dev/null; then
+            fail "Please run this first: sudo apt-get install ${missing[*]}"
+        fi
+    fi
+    say "Installing ${missing[*]} ..."
+    mkdir -p build
+    log=build/install.log
+    if ! "${as_root[@]}" apt-get update >"$log" 2>&1; then
+        say "The list of packages could not be refreshed; going on with the one at hand."
+    fi
+    if ! "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+        apt-get install -y --no-install-recommends "${missing[@]}" >>"$log" 2>&1; then
+        grep -E '^(E|W):' "$log" >&2
+        fail "The packages could not be installed. All that apt-get said is in $log."
+    fi
+}
+
+# Whether the first version is at least the second.
+version_at_least() {
+    [ "$(printf '%s\n%s\n' "$2" "$1" | sort -V | head -n 1)" = "$2" ]
+}
+
+# The newest systems that are too old have these packages, but not in the version needed.
+check_versions() {
+    local found
+    found=$(cmake --version 2>/dev/null | sed -n '1s/[^0-9]*//p')
+    version_at_least "${found:-0}" 3.25 ||
+        fail "CMake 3.25 or newer is needed (this is ${found:-no version}): Debian 12 or Ubuntu 24.04 have it."
+    found=$(pkg-config --modversion Qt6Widgets 2>/dev/null)
+    [ -z "$found" ] || version_at_least "$found" 6.4 ||
+        fail "Qt 6.4 or newer is needed (this is $found): Debian 12 or Ubuntu 24.04 have it."
+}
+
+# A build folder that came along with a copied tree belongs to the place it was made in.
+drop_foreign_build() {
+    local cache=$1/CMakeCache.txt
+    [ -f "$cache" ] || return 0
+    if ! grep -qxF "CMAKE_HOME_DIRECTORY:INTERNAL=$PWD" "$cache"; then
+        say "$1 was made for another place: building it anew."
+        rm -rf -- "$1"
+    fi
+}
