@@ -97,15 +97,16 @@ TEST_F(OptionsDialog, PickingASchemeKeepsItsColoursOnlyWithTheSliderAtHome)
     EXPECT_EQ(dialog.command4.BackColor(), Grey(100));
     EXPECT_EQ(module.SchemeFile, "grey.col") << "until Apply";
 
+    module.SchemeFile = "slate.col";
     dialog.ContrastV.UserSets(120);
-    world.PickScheme("slate");
+    world.PickScheme("grey");
     EXPECT_EQ(dialog.ContrastV.Value(), 100);
-    EXPECT_EQ(module.Background(), Grey(80));
-    EXPECT_EQ(module.Button(), Grey(48)) << "made anew from the background";
+    EXPECT_EQ(module.Background(), Grey(60));
+    EXPECT_EQ(module.Button(), Grey(28)) << "made anew from the background";
 
     dialog.command3.UserActivates();
-    EXPECT_EQ(module.SchemeFile, "slate.col");
-    EXPECT_EQ(module.Button(), Grey(100));
+    EXPECT_EQ(module.SchemeFile, "grey.col");
+    EXPECT_EQ(module.Button(), Grey(80));
 }
 
 TEST_F(OptionsDialog, AClickBesideTheSchemesFindsNone)

@@ -31,6 +31,8 @@ TEST(MakeScheme, ShiftsTheBackgroundAndHoldsItWithinShades)
                                    Rgb(164, 214, 244), Rgb(116, 166, 216), Rgb(132, 182, 232)}));
     EXPECT_EQ(dress.SchemeColors[9], Rgb(128, 0, 0));
     EXPECT_EQ(dress.SchemeColors[12], Rgb(0, 255, 0));
+    MakeScheme(dress, Grey(100), 5);
+    EXPECT_EQ(dress.Button(), Grey(98)) << "a shift of 1.6";
     MakeScheme(dress, Rgb(0, 255, 100), 0);
     EXPECT_EQ(ShiftedSlots(dress), std::vector<Colour>(6, Rgb(1, 244, 100)));
     EXPECT_EQ(dress.Background(), Rgb(0, 255, 100)) << "the background itself isn't held";
@@ -116,7 +118,6 @@ TEST(ReadingAScheme, ThatIsNotThereFallsBackToTheDefaultName)
     EXPECT_EQ(world.module.Background(), Grey(80));
     EXPECT_EQ(world.module.SchemeColors[12], before[12]);
 
-    // "default.col" by name was asked for, and no file answers: the name in hand survives its change.
     world.platform.files.clear();
     world.store.ReadScheme("other.col");
     EXPECT_EQ(world.messageBox.Label1.Caption(), "Colour Scheme: other.col not found");

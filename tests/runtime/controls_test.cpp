@@ -24,8 +24,21 @@ protected:
     }
 };
 
+/// Counts how often it is told of changes.
+class ToldPlatform : public HeadlessPlatform
+{
+public:
+    int told = 0;
+
+    void ChangesPending(Form& form) override
+    {
+        ++told;
+        HeadlessPlatform::ChangesPending(form);
+    }
+};
+
 struct Controls : testing::Test {
-    HeadlessPlatform platform;
+    ToldPlatform platform;
     Forms forms{platform};
     Form form{forms, "form", {3000, 2000}};
 };
@@ -38,7 +51,7 @@ TEST_F(Controls, OnlyAChangeIsNotedAndEachControlOnce)
     surface.Add(label);
     form.Show();
     platform.RunPendingEvents();
-    platform.paints = platform.paintedControls = 0;
+    platform.paints = platform.paintedControls = platform.told = 0;
 
     label.SetCaption("");
     label.Move(0, 0);
@@ -52,6 +65,7 @@ TEST_F(Controls, OnlyAChangeIsNotedAndEachControlOnce)
     label.SetForeColor(White);
     surface.SetWidth(30);
     form.SetCaption("other");
+    EXPECT_EQ(platform.told, 1);
     platform.RunPendingEvents();
     EXPECT_EQ(platform.paints, 1);
     EXPECT_EQ(platform.paintedControls, 3);

@@ -14,7 +14,7 @@ public:
     HeadlessWorld() { platform_.files["/run/"] = {}; }
 
     Platform& platform() { return platform_; }
-    std::string WritableFolder() { return "/run/"; }
+    static std::string WritableFolder() { return "/run/"; }
     std::int64_t Milliseconds() const { return platform_.milliseconds; }
     void LetTimePass(int milliseconds) { platform_.Advance(milliseconds); }
     void WhenModal(std::function<void()> user)

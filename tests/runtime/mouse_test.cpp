@@ -134,6 +134,12 @@ TEST_F(Mouse, APressDuringAMoveIsGoneAndItsReleaseToo)
     form.FeedMouseDown(At(300, 300));
     {
         const InputHold hold(form); // a move that the press itself began
+        form.FeedMouseDown(At(300, 300, RightButton));
+    }
+    form.FeedMouseUp(At(300, 300, RightButton));
+    EXPECT_EQ(record, "upper+100,100 ");
+    {
+        const InputHold hold(form);
         form.FeedMouseUp(At(300, 300));
     }
     EXPECT_EQ(record, "upper+100,100 ");
@@ -146,8 +152,8 @@ TEST_F(Mouse, AModalFormTakesTheMouseFromTheOthers)
     lower.OnMouseDown = [&](const MouseEvent&) { dialog.ShowModal(&form); };
     platform.OnNextModal([&](Form&) {
         form.FeedMouseMove(At(300, 300, 0));
-        form.FeedMouseDown(At(300, 300));
-        form.FeedMouseUp(At(300, 300));
+        form.FeedMouseDown(At(300, 300, MiddleButton));
+        form.FeedMouseUp(At(300, 300, MiddleButton));
         dialog.Hide();
     });
     form.FeedMouseDown(At(100, 100)); // the release never comes here
