@@ -90,8 +90,8 @@ public:
     /// The control that shows on the form and goes by this name for assistive tools, buttons before
     /// others; none if there is none.
     static Control* FindShown(const Container& on, const std::string& accessibleName);
-    /// Lets virtual time go by; the timers that fall due tick in their order.
-    void Advance(int milliseconds);
+    /// Lets so many milliseconds of virtual time go by; the timers that fall due tick in their order.
+    void Advance(int time);
 
     // --- Platform ---
 
@@ -104,7 +104,7 @@ public:
     void FreezeSurface(const Control* surface) override;
     void RunPendingEvents() override;
     void WaitForEvent() override;
-    void StartTimer(Timer& timer, int milliseconds) override;
+    void StartTimer(Timer& timer, int after) override;
     void StopTimer(Timer& timer) override;
     void EndProgram() override;
     PixelPoint Cursor() override;

@@ -78,8 +78,9 @@ constexpr Twips BelowButtons = 600; ///< with the frame of the window
 
 } // namespace
 
-MsgForm::MsgForm(Forms& forms) : Form(forms, {}, {3 * ButtonSize.width, 8 * BelowText})
+MsgForm::MsgForm(Forms& forms) : Form(forms, {}, {3 * ButtonSize.width, 2 * ButtonSize.height})
 {
+    // Every message gives the form a size of its own.
     HasCloseBox = false;
 
     Label1.Move(LabelPlace.x, LabelPlace.y);

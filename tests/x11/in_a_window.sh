@@ -19,6 +19,7 @@ say() { printf '%s\n' "$*"; }
 fail() {
     say "FAILED: $*"
     [ -z "${DISPLAY:-}" ] || import -silent -window root "$out/failed.png"
+    [ -z "$pid" ] || ! program_is_gone || say "the program is gone"
     [ ! -f "$out/failed.png" ] || say "the screen is in $out/failed.png"
     exit 1
 }
@@ -87,8 +88,8 @@ start_program() {
 # Starts the program as on its first day: the notice that there is no configuration yet comes up.
 start_first_time() {
     start_program
-    soon "the first notice" box_is_open
     answer 1 1
+    soon "the first notice goes" box_is_gone
     soon "the main window" main_window_is_open
 }
 
@@ -112,17 +113,29 @@ size_of() {
     xwininfo -id "$1" 2>/dev/null | awk '/^ *Width:/ { w = $2 } /^ *Height:/ { print w, $2 }'
 }
 
-# Presses the n-th of so many buttons of the message box that must come up. Its buttons stand in a
-# row of 59 by 23.3 pixels each, centred on the outer width, their middle 24.7 above the lower edge.
-answer() { # n of
-    local width height x y
-    soon "a message box" box_is_open
-    sleep 0.1 # until it has been painted and has its place
+# Whether a message box is open and shows so many buttons. They stand in a row of 59 by 23.3 pixels
+# each, centred on the outer width, their middle 24.7 above the lower edge; the row begins with a
+# white line and ends with a black one.
+box_shows_buttons() {
+    local count=$1 width height left format='' dx seen
+    box_is_open || return
     read -r width height < <(size_of "$box")
-    x=$(((width + 8 * scale) / 2 + (2 * $1 - $2 - 1) * 59 * scale / 2))
-    y=$((height - 25 * scale))
-    xdotool mousemove --window "$box" "$x" "$y" sleep 0.02 click 1
-    soon "the message box goes" box_is_gone
+    row_left=$(((width + 8 * scale - count * 59 * scale) / 2))
+    row_middle=$((height - 25 * scale))
+    for ((dx = -2 * scale; dx <= 2 * scale; ++dx)); do
+        left=$((row_left + dx))
+        format+="L%[hex:p{$left,$row_middle}] R%[hex:p{$((left + count * 59 * scale - scale)),$row_middle}] "
+    done
+    seen=$(xwd -silent -id "$box" 2>/dev/null |
+        convert xwd:- -depth 8 -type TrueColor -format "$format" info: 2>/dev/null)
+    [[ $seen == *LFFFFFF* && $seen == *R000000* ]]
+}
+
+# Presses the n-th of so many buttons of the message box that must come up.
+answer() { # n of
+    soon "a message box with $2 buttons" box_shows_buttons "$2"
+    xdotool mousemove --window "$box" $((row_left + (2 * $1 - 1) * 59 * scale / 2)) "$row_middle" \
+        sleep 0.02 click 1
 }
 
 # --- what shows ---
@@ -257,7 +270,7 @@ no_display() {
     said=$(cd "$program" && env -u DISPLAY -u WAYLAND_DISPLAY timeout 10 ./tessarine 2>&1)
     local code=$?
     say "   $said"
-    [ "$code" -ne 0 ] && [ "$code" -lt 124 ] || fail "the program ended with code $code"
+    if [ "$code" -eq 0 ] || [ "$code" -ge 124 ]; then fail "the program ended with code $code"; fi
     [ "$(wc -l <<<"$said")" -eq 1 ] || fail "it should say one sentence"
 }
 

@@ -1,0 +1,68 @@
+#include "desktop/dialogs.h"
+
+#include "desktop/files.h"
+#include "desktop/text.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QMessageBox>
+
+namespace tessarine::dialogs
+{
+namespace
+{
+
+constexpr auto ProgramTitle = "Tessarine";
+
+QString FilterOf(const FileDialogRequest& request)
+{
+    return ToText(request.typesName) + QLatin1String(" (") + ToText(request.types) + QLatin1Char(')');
+}
+
+} // namespace
+
+bool Message(QWidget* parent, const std::string& text, PlainButtons buttons)
+{
+    const bool asks = buttons == PlainButtons::YesNo;
+    QMessageBox box(asks ? QMessageBox::Question : QMessageBox::Information,
+                    QLatin1String(ProgramTitle), {},
+                    asks ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok, parent);
+    box.setTextFormat(Qt::PlainText);
+    box.setText(ToText(text));
+    if (asks) {
+        box.setDefaultButton(QMessageBox::No);
+        box.setEscapeButton(QMessageBox::No);
+    }
+    const int answer = box.exec();
+    return !asks || answer == QMessageBox::Yes;
+}
+
+std::string Text(QWidget* parent, const std::string& prompt)
+{
+    QInputDialog box(parent);
+    box.setWindowTitle(QLatin1String(ProgramTitle));
+    box.setLabelText(ToText(prompt));
+    return box.exec() == QDialog::Accepted ? ToBytes(box.textValue()) : std::string();
+}
+
+std::string File(QWidget* parent, const FileDialogRequest& request)
+{
+    const std::string before = files::CurrentFolder();
+    QFileDialog box(parent, ToText(request.title), ToText(request.folder), FilterOf(request));
+    box.setAcceptMode(request.save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    box.setFileMode(request.save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    box.setOption(QFileDialog::DontConfirmOverwrite);
+    if (!request.name.empty()) {
+        box.selectFile(ToText(request.name));
+    }
+    std::string chosen;
+    if (box.exec() == QDialog::Accepted && !box.selectedFiles().isEmpty()) {
+        chosen = QFile::encodeName(box.selectedFiles().constFirst()).toStdString();
+    }
+    files::ChangeFolder(before);
+    return chosen;
+}
+
+} // namespace tessarine::dialogs

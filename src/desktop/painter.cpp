@@ -1,0 +1,226 @@
+#include "desktop/painter.h"
+
+#include "desktop/colours.h"
+#include "desktop/pixels.h"
+
+#include <QPainterPath>
+#include <QWidget>
+
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+namespace tessarine
+{
+namespace
+{
+
+bool HidesWhatLiesBehind(const Control& light)
+{
+    return light.Kind() == ControlKind::Label && static_cast<const Label&>(light).IsOpaque();
+}
+
+QRegion InDevicePixels(const QRegion& region, double ratio, const QRect& all)
+{
+    // At a fractional scale the widget's own corner was rounded too, by less than a pixel.
+    const int slack = ratio == std::floor(ratio) ? 0 : 1;
+    QRegion scaled;
+    for (const QRect& rect : region) {
+        const int left = static_cast<int>(std::floor(rect.left() * ratio)) - slack;
+        const int top = static_cast<int>(std::floor(rect.top() * ratio)) - slack;
+        const int right = static_cast<int>(std::ceil((rect.left() + rect.width()) * ratio)) + slack;
+        const int bottom = static_cast<int>(std::ceil((rect.top() + rect.height()) * ratio)) + slack;
+        scaled += QRect(left, top, right - left, bottom - top) & all;
+    }
+    return scaled;
+}
+
+} // namespace
+
+Painter::Painter(QWidget& widget, const QRegion& region, Typesetter& typesetter)
+    : painter_(&widget), typesetter_(typesetter)
+{
+    const QTransform toDevice = painter_.deviceTransform();
+    ratio_ = toDevice.m11();
+    scale_ = ratio_ * PixelsPerTwip;
+    const QPoint corner(NearestPixel(toDevice.dx()), NearestPixel(toDevice.dy()));
+    all_ = QRect(0, 0, NearestPixel(toDevice.dx() + widget.width() * ratio_) - corner.x(),
+                 NearestPixel(toDevice.dy() + widget.height() * ratio_) - corner.y());
+    dirty_ = InDevicePixels(region, ratio_, all_);
+    painter_.setWorldTransform(QTransform::fromTranslate(corner.x(), corner.y()) * toDevice.inverted());
+}
+
+QRect Painter::RectOf(const Control& control) const
+{
+    return RoundedRect(control.Left(), control.Top(), control.Width(), control.Height(), scale_);
+}
+
+// A line is as thick as a logical pixel and fills exactly the one in which it lies.
+int Painter::LineStart(Twips position) const
+{
+    return NearestPixel(std::floor(position * PixelsPerTwip) * ratio_);
+}
+
+int Painter::LineEnd(Twips position) const
+{
+    return NearestPixel((std::floor(position * PixelsPerTwip) + 1) * ratio_);
+}
+
+int Painter::Border() const
+{
+    return std::max(1, NearestPixel(ratio_));
+}
+
+void Painter::PaintChildren(const Container& container, std::optional<QColor> ground)
+{
+    QRegion open = dirty_;
+    std::vector<const Control*> seen;
+    const auto& children = container.Children();
+    for (auto child = children.rbegin(); child != children.rend() && !open.isEmpty(); ++child) {
+        const Control& control = **child;
+        if (!control.IsLight() || !control.Visible()) {
+            continue;
+        }
+        const QRect rect = RectOf(control);
+        if (!open.intersects(rect)) {
+            continue;
+        }
+        seen.push_back(&control);
+        if (HidesWhatLiesBehind(control)) {
+            open -= rect;
+        }
+    }
+    if (ground) {
+        for (const QRect& rect : open) {
+            painter_.fillRect(rect, *ground);
+        }
+    }
+    for (auto control = seen.rbegin(); control != seen.rend(); ++control) {
+        if ((*control)->Kind() == ControlKind::Label) {
+            PaintLabel(static_cast<const Label&>(**control));
+        } else if (const Picture* picture = static_cast<const Image&>(**control).Shown()) {
+            PaintPicture(painter_, *picture, RectOf(**control));
+        }
+    }
+}
+
+void Painter::FillFrame(const QRect& rect, int thickness, const QColor& colour)
+{
+    const int width = rect.width();
+    const int inner = std::max(0, rect.height() - 2 * thickness);
+    painter_.fillRect(rect.left(), rect.top(), width, thickness, colour);
+    painter_.fillRect(rect.left(), rect.top() + thickness, thickness, inner, colour);
+    painter_.fillRect(rect.left() + width - thickness, rect.top() + thickness, thickness, inner, colour);
+    painter_.fillRect(rect.left(), rect.top() + rect.height() - thickness, width, thickness, colour);
+}
+
+void Painter::PaintLabel(const Label& label)
+{
+    QRect rect = RectOf(label);
+    const QColor ground = ToQColor(label.BackColor());
+    if (label.HasBorder()) {
+        FillFrame(rect, Border(), EdgeOf(ground));
+        rect.adjust(Border(), Border(), -Border(), -Border());
+    }
+    if (label.IsOpaque()) {
+        painter_.fillRect(rect, ground);
+    }
+    if (!label.Caption().empty()) {
+        PaintText(label, rect);
+    }
+}
+
+void Painter::PaintText(const Label& label, const QRect& inside)
+{
+    const QColor colour = ToQColor(label.ForeColor());
+    const std::vector<std::string> lines = LinesOf(label.Caption());
+    double top = 0;
+    for (const std::string& line : lines) {
+        const Ink ink = typesetter_.Draw(line, label.Font(), colour, ratio_);
+        const bool centred = label.Align() == Alignment::Centre;
+        const int indent = centred ? NearestPixel((inside.width() - ink.advance) / 2.0) : 0;
+        QPoint pen = inside.topLeft() + QPoint(indent, NearestPixel(top) + ink.ascent);
+        top += ink.lineHeight;
+        if (lines.size() == 1) {
+            // A line higher than the label moves up until all that is seen of it is inside.
+            const int below = pen.y() + ink.offset.y() + ink.image.height() - inside.bottom() - 1;
+            const int above = pen.y() + ink.offset.y() - inside.top();
+            pen.ry() -= std::clamp(below, 0, std::max(0, above));
+        }
+        PaintInk(ink, pen, inside);
+    }
+}
+
+void Painter::PaintInk(const Ink& ink, QPoint pen, const QRect& within)
+{
+    if (ink.image.isNull()) {
+        return;
+    }
+    const QPoint corner = pen + ink.offset;
+    const QRect shown = QRect(corner, ink.image.size()) & within;
+    if (!shown.isEmpty()) {
+        painter_.drawImage(shown.topLeft(), ink.image, QRect(shown.topLeft() - corner, shown.size()));
+    }
+}
+
+void Painter::PaintDrawing(const UserControl& control)
+{
+    const Canvas& canvas = control.Drawing();
+    for (const QRect& rect : dirty_) {
+        painter_.fillRect(rect, ToQColor(canvas.Background()));
+    }
+    for (const Canvas::Stroke& stroke : canvas.Strokes()) {
+        std::visit([this](const auto& kind) { Paint(kind); }, stroke);
+    }
+}
+
+void Painter::PaintBorder(const QColor& colour)
+{
+    FillFrame(all_, Border(), colour);
+}
+
+void Painter::PaintFocus(const QColor& colour)
+{
+    const int distance = 2 * Border() + Border() / 2;
+    FillFrame(all_.adjusted(distance, distance, -distance, -distance), Border(), colour);
+}
+
+void Painter::Paint(const Canvas::Line& line)
+{
+    const auto [left, right] = std::minmax(line.from.x, line.to.x);
+    const auto [top, bottom] = std::minmax(line.from.y, line.to.y);
+    const QRect rect(QPoint(LineStart(left), LineStart(top)),
+                     QPoint(LineEnd(right) - 1, LineEnd(bottom) - 1));
+    painter_.fillRect(rect, ToQColor(line.colour));
+}
+
+void Painter::Paint(const Canvas::Box& box)
+{
+    // Upwards, so that a pixel belongs to the box if its upper left corner does: a click on it finds
+    // the colour that shows.
+    const auto edge = [this](Twips position) { return static_cast<int>(std::ceil(position * scale_)); };
+    const QRect rect(QPoint(edge(box.upperLeft.x), edge(box.upperLeft.y)),
+                     QPoint(edge(box.lowerRight.x) - 1, edge(box.lowerRight.y) - 1));
+    painter_.fillRect(rect, ToQColor(box.colour));
+}
+
+void Painter::Paint(const Canvas::Text& text)
+{
+    double top = text.upperLeft.y * scale_;
+    const int left = NearestPixel(text.upperLeft.x * scale_);
+    for (const std::string& line : LinesOf(text.text)) {
+        const Ink ink = typesetter_.Draw(line, text.font, ToQColor(text.colour), ratio_);
+        PaintInk(ink, {left, NearestPixel(top) + ink.ascent}, all_);
+        top += ink.lineHeight;
+    }
+}
+
+void Painter::Paint(const Canvas::Drawing& drawing)
+{
+    const double side = drawing.picture->pixels * ratio_;
+    const QPointF corner(NearestPixel(drawing.upperLeft.x * scale_),
+                         NearestPixel(drawing.upperLeft.y * scale_));
+    PaintPicture(painter_, *drawing.picture, QRectF(corner, QSizeF(side, side)));
+}
+
+} // namespace tessarine

@@ -1,0 +1,65 @@
+// Painting what controls say of themselves, in whole pixels of the device.
+#pragma once
+
+#include "desktop/fonts.h"
+#include "runtime/controls.h"
+#include "runtime/form.h"
+
+#include <QPainter>
+#include <QPixmap>
+#include <QRegion>
+
+#include <optional>
+
+namespace tessarine
+{
+
+/// Paints on one widget during its paint event. The toolkit counts in logical pixels, which at a scale
+/// of 1.25 end between two pixels of the screen; this painter counts in pixels of the device, from the
+/// corner of the widget, so that every edge is sharp at every scale.
+class Painter
+{
+public:
+    /// `region` is what has to be painted, in logical pixels.
+    Painter(QWidget& widget, const QRegion& region, Typesetter& typesetter);
+
+    /// The labels and images of a container, and its ground where none of them covers it: nothing is
+    /// painted that another hides. Without a ground, what was painted before shows through.
+    void PaintChildren(const Container& container, std::optional<QColor> ground);
+    /// What a user control has drawn on itself.
+    void PaintDrawing(const UserControl& control);
+    /// A thin line all round, just inside the widget.
+    void PaintBorder(const QColor& colour);
+    /// The mark of the keyboard.
+    void PaintFocus(const QColor& colour);
+
+private:
+    QRect RectOf(const Control& control) const;
+    int LineStart(Twips position) const;
+    int LineEnd(Twips position) const;
+    int Border() const;
+
+    void FillFrame(const QRect& rect, int thickness, const QColor& colour);
+    void PaintLabel(const Label& label);
+    void PaintText(const Label& label, const QRect& inside);
+    void PaintInk(const Ink& ink, QPoint pen, const QRect& within);
+    void Paint(const Canvas::Line& line);
+    void Paint(const Canvas::Box& box);
+    void Paint(const Canvas::Text& text);
+    void Paint(const Canvas::Drawing& drawing);
+
+    QPainter painter_;
+    Typesetter& typesetter_;
+    double ratio_ = 1; ///< pixels of the device per logical pixel
+    double scale_ = 1; ///< pixels of the device per twip
+    QRect all_;        ///< the widget
+    QRegion dirty_;    ///< at least what has to be painted
+};
+
+/// Draws a picture into a rectangle.
+void PaintPicture(QPainter& painter, const Picture& picture, const QRectF& into);
+
+/// A picture as an icon of so many pixels.
+QPixmap PictureAsPixmap(const Picture& picture, int pixels);
+
+} // namespace tessarine

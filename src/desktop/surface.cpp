@@ -1,0 +1,181 @@
+#include "desktop/surface.h"
+
+#include "desktop/colours.h"
+#include "desktop/painter.h"
+
+#include <QFocusEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPaintEvent>
+
+namespace tessarine
+{
+namespace
+{
+
+int ButtonNumber(Qt::MouseButton button)
+{
+    switch (button) {
+    case Qt::LeftButton:
+        return LeftButton;
+    case Qt::RightButton:
+        return RightButton;
+    case Qt::MiddleButton:
+        return MiddleButton;
+    default:
+        return 0;
+    }
+}
+
+int ShiftKeys(Qt::KeyboardModifiers modifiers)
+{
+    return (modifiers.testFlag(Qt::ShiftModifier) ? ShiftKey : 0) +
+           (modifiers.testFlag(Qt::ControlModifier) ? ControlKey : 0) +
+           (modifiers.testFlag(Qt::AltModifier) ? AltKey : 0);
+}
+
+} // namespace
+
+Surface::Surface(Container& container, Desk& desk, QWidget* parent)
+    : QWidget(parent), Peer(*this, container, desk), ground_(ToQColor(container.BackColor()))
+{
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setAttribute(Qt::WA_NoSystemBackground);
+}
+
+const UserControl* Surface::AsUserControl() const
+{
+    const Control* control = TheControl();
+    return control != nullptr && control->Kind() == ControlKind::UserControl
+               ? static_cast<const UserControl*>(control)
+               : nullptr;
+}
+
+void Surface::RefreshContents()
+{
+    const QColor ground = ToQColor(TheControl()->BackColor());
+    if (AsUserControl() != nullptr || ground != ground_) {
+        ground_ = ground;
+        update();
+    }
+}
+
+void Surface::paintEvent(QPaintEvent* event)
+{
+    if (TheControl() == nullptr) {
+        return;
+    }
+    Painter painter(*this, event->region(), TheDesk().typesetter);
+    const UserControl* const user = AsUserControl();
+    if (user == nullptr) {
+        painter.PaintChildren(*TheContainer(), ToQColor(TheControl()->BackColor()));
+        return;
+    }
+    painter.PaintDrawing(*user);
+    painter.PaintChildren(*user, std::nullopt);
+    if (user->HasBorder()) {
+        painter.PaintBorder(EdgeOf(ToQColor(user->BackColor())));
+    }
+    if (focusByKeyboard_) {
+        painter.PaintFocus(ReadableOn(ToQColor(user->BackColor()), ToQColor(user->ForeColor())));
+    }
+}
+
+MouseEvent Surface::AsTwips(const QMouseEvent& event) const
+{
+    const QPointF onForm = mapTo(window(), event.position());
+    return {ButtonNumber(event.button()), ShiftKeys(event.modifiers()), onForm.x() * TwipsPerPixel,
+            onForm.y() * TwipsPerPixel};
+}
+
+void Surface::NotePointer(const QMouseEvent& event)
+{
+    const QPoint place = event.globalPosition().toPoint();
+    TheDesk().pointer = PixelPoint{place.x(), place.y()};
+}
+
+/// A release can get lost, as when another window took the mouse away in the middle of a gesture. The
+/// first press of the next one brings it after.
+void Surface::DropStaleCapture(Form& form, const QMouseEvent& event)
+{
+    const bool isFirst = event.buttons() == Qt::MouseButtons(event.button());
+    if (!isFirst || form.Captured() == nullptr) {
+        return;
+    }
+    MouseEvent release = AsTwips(event);
+    for (const int button : {LeftButton, RightButton, MiddleButton}) {
+        release.button = button;
+        form.FeedMouseUp(release);
+    }
+}
+
+void Surface::mousePressEvent(QMouseEvent* event)
+{
+    Form* const form = TheControl() == nullptr ? nullptr : TheControl()->OwnerForm();
+    if (form == nullptr || ButtonNumber(event->button()) == 0) {
+        return;
+    }
+    const QPointer<QWidget> alive(this);
+    NotePointer(*event);
+    DropStaleCapture(*form, *event);
+    if (alive && TheControl() != nullptr) {
+        form->FeedMouseDown(AsTwips(*event));
+    }
+}
+
+void Surface::mouseMoveEvent(QMouseEvent* event)
+{
+    if (TheControl() == nullptr) {
+        return;
+    }
+    NotePointer(*event);
+    if (Form* form = TheControl()->OwnerForm()) {
+        form->FeedMouseMove(AsTwips(*event));
+    }
+}
+
+void Surface::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (TheControl() == nullptr || ButtonNumber(event->button()) == 0) {
+        return;
+    }
+    Desk& desk = TheDesk();
+    const bool isLast = event->buttons() == Qt::NoButton;
+    NotePointer(*event);
+    if (Form* form = TheControl()->OwnerForm()) {
+        form->FeedMouseUp(AsTwips(*event));
+    }
+    if (isLast) {
+        desk.pointer.reset();
+    }
+}
+
+void Surface::keyPressEvent(QKeyEvent* event)
+{
+    const bool isPress =
+        event->key() == Qt::Key_Space || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (TheControl() == nullptr || !TheControl()->TakesFocus() || !isPress) {
+        QWidget::keyPressEvent(event);
+    } else if (!event->isAutoRepeat()) {
+        UserDoes([this] { TheControl()->UserActivates(); });
+    }
+}
+
+void Surface::focusInEvent(QFocusEvent* event)
+{
+    const Qt::FocusReason reason = event->reason();
+    if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason) {
+        focusByKeyboard_ = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason;
+    }
+    update();
+}
+
+void Surface::focusOutEvent(QFocusEvent* event)
+{
+    if (event->reason() != Qt::ActiveWindowFocusReason && event->reason() != Qt::PopupFocusReason) {
+        focusByKeyboard_ = false;
+    }
+    update();
+}
+
+} // namespace tessarine

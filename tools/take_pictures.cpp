@@ -1,0 +1,279 @@
+// Takes the pictures of the help page, the README and the desktop entry from the program itself:
+//   take_pictures PROGRAM-FOLDER DATA-FOLDER DOCS-FOLDER
+// Plays real games until a position shows what a picture is to show. To be run by hand when the look
+// of the table changes; needs no display (QT_QPA_PLATFORM=offscreen).
+#include "desktop/desktop_platform.h"
+#include "form1.h"
+#include "table/rules.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QPixmap>
+#include <QTemporaryDir>
+
+#include <algorithm>
+#include <cstdio>
+#include <optional>
+#include <utility>
+
+using namespace tessarine;
+
+namespace
+{
+
+constexpr float PictureScale = 1.4F;
+constexpr int MostTries = 2000;
+constexpr int FewCards = 9;
+
+/// Plays by the rules with a plain strategy: piles first, then whatever fits, the stock in between.
+class Player
+{
+public:
+    explicit Player(Form1& form) : form_(form), table_(form.table) {}
+
+    void DealAnew()
+    {
+        form_.deal.NewDeal();
+        form_.scaling.ScaleTable(1.0F);
+        form_.ring.NextStockCard();
+        form_.undo.Clear();
+    }
+
+    /// One move, or one turn of the stock. False if a whole pass through the stock brought nothing.
+    bool Step()
+    {
+        if (MoveFrom(true) || MoveFrom(false)) {
+            turns_ = 0;
+            return true;
+        }
+        form_.ring.NextStockCard();
+        return ++turns_ <= static_cast<int>(table_.Stacks[At(StockStack)].Count());
+    }
+
+    int CardsLeft() const
+    {
+        int left = 0;
+        for (int stack = 0; stack <= StockStack; ++stack) {
+            left += static_cast<int>(table_.Stacks[At(stack)].Count());
+        }
+        return left - 1; // the marker
+    }
+
+    int HeadOfRun(int column) const
+    {
+        for (const std::string& entry : table_.Stacks[At(column)]) {
+            if (table_.IsFaceUp(CardOfEntry(entry))) {
+                return CardOfEntry(entry);
+            }
+        }
+        return NoCard;
+    }
+
+    void Drag(int card, int onto)
+    {
+        Hold(card, onto, 1);
+        form_.FeedMouseUp({LeftButton, 0, pointer_.x, pointer_.y});
+    }
+
+    /// Takes a card and moves it part of the way to another item; the button stays down.
+    void Hold(int card, int onto, double part)
+    {
+        const Label& from = table_.cardy[At(card)];
+        const Label& to = table_.cardy[At(onto)];
+        const Point grip{60, 60};
+        const Point start = from.PlaceOnForm();
+        pointer_ = {start.x + grip.x, start.y + grip.y};
+        form_.FeedMouseDown({LeftButton, 0, pointer_.x, pointer_.y});
+        for (int i = 1; i <= table_.DragCards[0]; ++i) {
+            Label& held = table_.cardy[At(table_.DragCards[At(i)])];
+            held.Move(held.Left() + (to.Left() - start.x + table_.Picture2.Left()) * part,
+                      held.Top() + (to.Top() - start.y + table_.Picture2.Top()) * part +
+                          220 * (1 - part));
+        }
+    }
+
+private:
+    bool MoveFrom(bool ontoPiles)
+    {
+        for (int stack = 0; stack <= StockStack; ++stack) {
+            if ((IsColumn(stack) || stack == StockStack) && MoveOneFrom(stack, ontoPiles)) {
+                return true;
+            }
+        }
+        return false;
+    }
+
+    bool MoveOneFrom(int stack, bool ontoPiles)
+    {
+        const TextList& entries = table_.Stacks[At(stack)];
+        if (entries.IsEmpty() || entries.Back() == Marker) {
+            return false;
+        }
+        if (ontoPiles) {
+            for (int pile = FirstPile; pile < FirstPile + Piles; ++pile) {
+                if (FitsOnPile(table_, table_.TopCard(stack), pile)) {
+                    Drag(table_.TopCard(stack), SlotOf(pile));
+                    return true;
+                }
+            }
+            return false;
+        }
+        const int head = stack == StockStack ? table_.TopCard(stack) : HeadOfRun(stack);
+        return MoveOntoColumn(head, stack);
+    }
+
+    bool MoveOntoColumn(int head, int source)
+    {
+        const bool hasCardsBehind = EntryOfCard(head) != table_.Stacks[At(source)].Front();
+        for (int column = 0; column < Columns; ++column) {
+            const int top = table_.TopCard(column);
+            if (column != source && top != NoCard && FollowsInColumn(table_, head, top)) {
+                Drag(head, top);
+                return true;
+            }
+        }
+        for (int column = 0; column < Columns; ++column) {
+            if (source != StockStack && hasCardsBehind && table_.TopCard(column) == NoCard) {
+                Drag(head, SlotOf(column));
+                return true;
+            }
+        }
+        return false;
+    }
+
+    Form1& form_;
+    Table& table_;
+    Point pointer_;
+    int turns_ = 0;
+};
+
+QWidget* MainWindow()
+{
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (window->isVisible()) {
+            return window;
+        }
+    }
+    return nullptr;
+}
+
+/// The upper part of the window, as far down as the cards go.
+QPixmap TablePicture(const Form1& form)
+{
+    Twips bottom = 0;
+    for (int card = 0; card < CardCount; ++card) {
+        const Label& label = form.table.cardy[At(card)];
+        bottom = std::max(bottom, label.Visible() ? label.PlaceOnForm().y + label.Height() : 0);
+    }
+    QCoreApplication::processEvents();
+    QWidget& window = *MainWindow();
+    return window.grab(QRect(0, 0, window.width(), static_cast<int>(bottom / TwipsPerPixel) + 12));
+}
+
+QPixmap TopRow(const Form1& form)
+{
+    QCoreApplication::processEvents();
+    QWidget& window = *MainWindow();
+    const auto top = static_cast<int>(form.table.Picture2.Top() / TwipsPerPixel);
+    const auto height = static_cast<int>(form.table.StackTop[0] / TwipsPerPixel);
+    return window.grab(QRect(0, top, window.width(), height - 4));
+}
+
+void Keep(const QPixmap& picture, const QString& path)
+{
+    if (picture.save(path)) {
+        std::printf("%s: %d x %d\n", qUtf8Printable(path), picture.width(), picture.height());
+    } else {
+        std::fprintf(stderr, "%s could not be written\n", qUtf8Printable(path));
+    }
+}
+
+/// A run of three or more that fits on another column.
+std::optional<std::pair<int, int>> DragOfARun(const Form1& form, const Player& player)
+{
+    for (int column = 0; column < Columns; ++column) {
+        const int head = player.HeadOfRun(column);
+        const bool isLong =
+            head != NoCard &&
+            form.table.CardNumber(head) - form.table.CardNumber(form.table.TopCard(column)) >= 2;
+        for (int other = 0; other < Columns && isLong; ++other) {
+            const int top = form.table.TopCard(other);
+            if (other != column && top != NoCard && FollowsInColumn(form.table, head, top)) {
+                return std::pair(head, top);
+            }
+        }
+    }
+    return std::nullopt;
+}
+
+/// Plays game after game until `isReached` says so. False if none comes to it.
+template <class Reached> bool PlayUntil(Player& player, Reached&& isReached)
+{
+    for (int game = 0; game < MostTries; ++game) {
+        player.DealAnew();
+        do {
+            if (isReached()) {
+                return true;
+            }
+        } while (player.CardsLeft() > FewCards - 3 && player.Step());
+    }
+    return false;
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    QApplication::setStyle(QStringLiteral("fusion"));
+    QCoreApplication::setAttribute(Qt::AA_Use96Dpi);
+    const QApplication application(argc, argv);
+    if (argc != 4) {
+        std::fprintf(stderr, "usage: take_pictures PROGRAM-FOLDER DATA-FOLDER DOCS-FOLDER\n");
+        return 1;
+    }
+    const QString data = QString::fromLocal8Bit(argv[2]) + QLatin1Char('/');
+    const QString docs = QString::fromLocal8Bit(argv[3]) + QLatin1Char('/');
+
+    // The program runs in a folder of its own, with the data files of the one given.
+    const QTemporaryDir folder;
+    QFile::copy(QString::fromLocal8Bit(argv[1]) + QStringLiteral("/all.col"),
+                folder.filePath(QStringLiteral("all.col")));
+    QFile configuration(folder.filePath(QStringLiteral("tessarine.cfg")));
+    if (!configuration.open(QIODevice::WriteOnly)) {
+        return 1;
+    }
+    configuration.write(
+        "\r\n 1 16777215 0 \r\n 1 \r\n 0 \r\n 8388608 \r\n 32768 \r\n 32896 \r\n 128 \r\n"
+        "default.col\r\narial\r\n");
+    configuration.close();
+    QDir::setCurrent(folder.path());
+
+    DesktopPlatform platform;
+    Form1 form(platform, folder.path().toStdString(), "tessarine");
+    form.Start();
+    form.shared.MoveSteps = 0;
+    form.scaling.ScaleTable(PictureScale);
+    Player player(form);
+
+    Keep(MainWindow()->windowIcon().pixmap(QSize(128, 128), 1.0),
+         data + QStringLiteral("tessarine.png"));
+    Keep(TablePicture(form), data + QStringLiteral("help_table.png"));
+    Keep(TopRow(form), data + QStringLiteral("help_stock.png"));
+
+    bool found = PlayUntil(player, [&] { return DragOfARun(form, player).has_value(); });
+    if (found) {
+        Keep(TablePicture(form), docs + QStringLiteral("table.png"));
+        const auto [head, onto] = *DragOfARun(form, player);
+        player.Hold(head, onto, 0.6);
+        Keep(TablePicture(form), data + QStringLiteral("help_run.png"));
+        form.FeedMouseUp({LeftButton, 0, 0, 0});
+    }
+    const bool won = PlayUntil(player, [&] { return player.CardsLeft() <= FewCards; });
+    if (won) {
+        Keep(TablePicture(form), data + QStringLiteral("help_win.png"));
+    }
+    if (!found || !won) {
+        std::fprintf(stderr, "a position for a picture did not come up\n");
+    }
+    return found && won ? 0 : 1;
+}
