@@ -115,8 +115,8 @@ public:
     int indexOfChild(const QAccessibleInterface* child) const override
     {
         const auto named = Named();
-        const auto place =
-            std::ranges::find_if(named, [&](const Control* control) { return ThingOf(*control) == child; });
+        const auto place = std::ranges::find_if(
+            named, [&](const Control* control) { return ThingOf(*control) == child; });
         return place == named.end()
                    ? QAccessibleWidget::indexOfChild(child)
                    : QAccessibleWidget::childCount() + static_cast<int>(place - named.begin());
@@ -127,9 +127,10 @@ public:
             return widget;
         }
         const auto named = Named();
-        const auto front = std::ranges::find_if(named.rbegin(), named.rend(), [&](const Control* control) {
-            return ThingOf(*control)->rect().contains(x, y);
-        });
+        const auto front =
+            std::ranges::find_if(named.rbegin(), named.rend(), [&](const Control* control) {
+                return ThingOf(*control)->rect().contains(x, y);
+            });
         return front == named.rend() ? nullptr : ThingOf(**front);
     }
     QString text(QAccessible::Text kind) const override
@@ -162,9 +163,10 @@ private:
     {
         std::vector<const Control*> named;
         if (const auto* container = static_cast<const Container*>(peer_.TheControl())) {
-            std::ranges::copy_if(container->Children(), std::back_inserter(named), [](const Control* child) {
-                return child->IsLight() && child->Visible() && !child->AccessibleName().empty();
-            });
+            std::ranges::copy_if(
+                container->Children(), std::back_inserter(named), [](const Control* child) {
+                    return child->IsLight() && child->Visible() && !child->AccessibleName().empty();
+                });
         }
         return named;
     }

@@ -137,8 +137,7 @@ void DesktopPlatform::StartTimer(Timer& timer, int milliseconds)
 
 void DesktopPlatform::StopTimer(Timer& timer)
 {
-    const auto running =
-        std::ranges::find(timers_, &timer, &decltype(timers_)::value_type::second);
+    const auto running = std::ranges::find(timers_, &timer, &decltype(timers_)::value_type::second);
     if (running != timers_.end()) {
         killTimer(running->first);
         timers_.erase(running);
@@ -212,8 +211,13 @@ DateTime DesktopPlatform::Now()
     const QTime time = now.time();
     constexpr qsizetype monthLetters = 3;
     const QString month = QLocale::system().monthName(date.month(), QLocale::ShortFormat);
-    return {date.year(), date.month(),  date.day(),    time.hour(),
-            time.minute(), time.second(), ToBytes(month.left(monthLetters))};
+    return {date.year(),
+            date.month(),
+            date.day(),
+            time.hour(),
+            time.minute(),
+            time.second(),
+            ToBytes(month.left(monthLetters))};
 }
 
 float DesktopPlatform::SecondsSinceMidnight()

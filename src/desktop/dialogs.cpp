@@ -26,9 +26,8 @@ QString FilterOf(const FileDialogRequest& request)
 bool Message(QWidget* parent, const std::string& text, PlainButtons buttons)
 {
     const bool asks = buttons == PlainButtons::YesNo;
-    QMessageBox box(asks ? QMessageBox::Question : QMessageBox::Information,
-                    QLatin1String(ProgramTitle), {},
-                    asks ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok, parent);
+    QMessageBox box(asks ? QMessageBox::Question : QMessageBox::Information, QLatin1String(ProgramTitle),
+                    {}, asks ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok, parent);
     box.setTextFormat(Qt::PlainText);
     box.setText(ToText(text));
     if (asks) {

@@ -35,7 +35,8 @@ private:
 
 bool IsRegular(int descriptor)
 {
-    struct stat facts {};
+    struct stat facts {
+    };
     return ::fstat(descriptor, &facts) == 0 && S_ISREG(facts.st_mode);
 }
 
@@ -118,7 +119,8 @@ void Remove(const std::string& path)
 bool IsPlain(const std::string& path)
 {
     const std::string name = std::filesystem::path(path).filename().string();
-    struct stat facts {};
+    struct stat facts {
+    };
     return !name.empty() && name.front() != '.' && ::stat(path.c_str(), &facts) == 0 &&
            S_ISREG(facts.st_mode);
 }

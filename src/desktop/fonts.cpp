@@ -19,9 +19,20 @@ constexpr int CacheBytes = 16 * 1024 * 1024;
 constexpr double SmallestPoints = 1;
 constexpr double LargestPoints = 4000;
 
-QFont ScaledFont(const Font& font, double ratio)
+bool IsPlainAscii(std::string_view text)
+{
+    return std::ranges::all_of(text,
+                               [](char letter) { return static_cast<unsigned char>(letter) < 128; });
+}
+
+/// The font for a text, at so many times its size.
+QFont ScaledFont(const Font& font, double ratio, std::string_view text = {})
 {
     QFont scaled;
+    if (IsPlainAscii(text)) {
+        // Every font has these letters: no search for others that would help out.
+        scaled.setStyleStrategy(QFont::NoFontMerging);
+    }
     scaled.setFamilies({ToText(font.name)});
     scaled.setPointSizeF(std::clamp(font.size * ratio, SmallestPoints, LargestPoints));
     scaled.setBold(font.bold);
@@ -73,7 +84,7 @@ void Underline(QPainter& painter, const QFontMetricsF& metrics, QPoint pen, int 
 
 Ink DrawLine(const std::string& line, const Font& font, const QColor& colour, double ratio)
 {
-    const QFont scaled = ScaledFont(font, ratio);
+    const QFont scaled = ScaledFont(font, ratio, line);
     const QFontMetricsF metrics(scaled);
     const QString text = ToText(line);
     const LineShape shape = ShapeOf(font);
@@ -122,8 +133,14 @@ std::vector<std::string> FontNames()
 QFont WidgetFont(const Font& font)
 {
     QFont plain = ScaledFont(font, 1);
+    plain.setStyleStrategy(QFont::PreferDefault);
     plain.setUnderline(font.underline);
     return plain;
+}
+
+std::jthread ReadFontsAhead()
+{
+    return std::jthread([] { QFontDatabase::hasFamily(QStringLiteral("Arial")); });
 }
 
 std::vector<std::string> LinesOf(std::string_view text)
@@ -145,7 +162,7 @@ std::vector<std::string> LinesOf(std::string_view text)
 
 Size TextSize(const Font& font, std::string_view text)
 {
-    const QFontMetricsF metrics(ScaledFont(font, 1));
+    const QFontMetricsF metrics(ScaledFont(font, 1, text));
     const LineShape shape = ShapeOf(font);
     Size size;
     for (const std::string& line : LinesOf(text)) {
@@ -159,13 +176,13 @@ Typesetter::Typesetter() : drawn_(CacheBytes) {}
 
 Ink Typesetter::Draw(const std::string& line, const Font& font, const QColor& colour, double ratio)
 {
-    Key key{line, font, colour.rgb(), ratio};
+    const Key key{line, font, colour.rgb(), ratio};
     if (const Ink* known = drawn_.object(key)) {
         return *known;
     }
     Ink ink = DrawLine(line, font, colour, ratio);
     constexpr qsizetype bookkeeping = 256;
-    drawn_.insert(std::move(key), new Ink(ink), ink.image.sizeInBytes() + bookkeeping);
+    drawn_.insert(key, new Ink(ink), ink.image.sizeInBytes() + bookkeeping);
     return ink;
 }
 

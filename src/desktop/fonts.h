@@ -12,10 +12,16 @@
 
 #include <string>
 #include <string_view>
+#include <thread>
 #include <vector>
 
 namespace tessarine
 {
+
+/// Reads the system's list of fonts on a thread of its own: with no text drawn yet it is the longest
+/// step of the start, and meanwhile the table can be dealt and the window be opened. Whoever needs a
+/// font before the thread is ready waits for it. Needs a QApplication.
+std::jthread ReadFontsAhead();
 
 /// The names of the fonts that can be shown.
 std::vector<std::string> FontNames();
@@ -31,10 +37,10 @@ Size TextSize(const Font& font, std::string_view text);
 
 /// A line of text, drawn. Everything is in pixels of the device.
 struct Ink {
-    QImage image;        ///< only what is seen; null if nothing is
-    QPoint offset;       ///< of the image from the left end of the base line
-    int advance = 0;     ///< how far the line reaches
-    int ascent = 0;      ///< from the upper edge of the line to the base line
+    QImage image;          ///< only what is seen; null if nothing is
+    QPoint offset;         ///< of the image from the left end of the base line
+    int advance = 0;       ///< how far the line reaches
+    int ascent = 0;        ///< from the upper edge of the line to the base line
     double lineHeight = 0; ///< from one base line to the next
 };
 

@@ -1,15 +1,11 @@
 // The window of a form.
 #pragma once
 
+#include "desktop/form_widgets.h"
 #include "desktop/size_talk.h"
 #include "desktop/surface.h"
 
 #include <QEventLoop>
-#include <QRegion>
-
-#include <unordered_map>
-#include <utility>
-#include <vector>
 
 namespace tessarine
 {
@@ -34,7 +30,7 @@ public:
     /// Brings the window to what the form says, in the next round of events.
     void RefreshSoon();
     /// Nothing of this control is drawn until the next call; none thaws.
-    void Freeze(const Control* surface);
+    void Freeze(const Control* surface) { widgets_.Freeze(surface); }
 
     void Refresh() override;
 
@@ -45,39 +41,18 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    /// Areas to be painted, by widget.
-    using Dirt = std::vector<std::pair<QWidget*, QRegion>>;
-
     Form* TheForm() const { return static_cast<Form*>(TheControl()); }
     bool HoldsItsSize() const;
-    bool IsFrozen(const Control& control) const;
-
+    void CentreOn(const QRect& area);
     void RefreshOwnLook();
     void RefreshEverything();
-    void RefreshControl(Control& control, Dirt& dirt);
-    void RefreshLight(const Control& light, Dirt& dirt);
-    void RefreshTree(Container& container);
-    QRect AreaOf(const Control& light) const;
 
-    Peer* PeerOf(const Control& control) const;
-    Peer* EnsurePeer(Control& control);
-    void KeepOrder(const Container& container);
-    void KeepTabOrder();
-    void FocusFirst();
-
-    void CentreOn(const QRect& area);
-
-    std::unordered_map<const Control*, Peer*> peers_;
-    /// Where the light controls were painted last, in logical pixels of their container; empty for a
-    /// hidden one.
-    std::unordered_map<const Control*, QRect> painted_;
-    const Control* frozen_ = nullptr;
+    FormWidgets widgets_;
     QEventLoop* loop_ = nullptr;
     QPointer<FormWindow> owner_;
     SizeTalk sizes_;
     bool fitting_ = false;
     bool placed_ = false;
-    bool widgetsWereAdded_ = false;
 };
 
 } // namespace tessarine

@@ -56,7 +56,8 @@ public:
         setUniformItemSizes(true);
         setVerticalScrollMode(ScrollPerItem);
         setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-        QObject::connect(verticalScrollBar(), &QScrollBar::valueChanged, this, [this](int) { NoteTop(); });
+        QObject::connect(verticalScrollBar(), &QScrollBar::valueChanged, this,
+                         [this](int) { NoteTop(); });
     }
 
 protected:

@@ -1,5 +1,6 @@
 // The program Tessarine on a desktop.
 #include "desktop/desktop_platform.h"
+#include "desktop/fonts.h"
 #include "form1.h"
 
 #include <QApplication>
@@ -8,6 +9,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <thread>
 
 namespace
 {
@@ -40,7 +42,8 @@ int main(int argc, char* argv[])
     if (!IsSet("QT_QPA_PLATFORM") && !IsSet("DISPLAY") && !IsSet("WAYLAND_DISPLAY")) {
         EndWithoutDisplay();
     }
-    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
+        Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     QCoreApplication::setAttribute(Qt::AA_Use96Dpi);
     QApplication::setStyle(QStringLiteral("fusion"));
     QCoreApplication::setApplicationName(QStringLiteral("tessarine"));
@@ -49,6 +52,7 @@ int main(int argc, char* argv[])
     const QtMessageHandler before = qInstallMessageHandler(WatchStart);
     const QApplication application(argc, argv);
     qInstallMessageHandler(before);
+    const std::jthread fonts = tessarine::ReadFontsAhead();
     QGuiApplication::setQuitOnLastWindowClosed(false); // the program says when it ends
 
     tessarine::DesktopPlatform platform;

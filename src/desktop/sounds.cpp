@@ -18,6 +18,38 @@ namespace
 
 using Clock = std::chrono::steady_clock;
 
+/// The library that plays, loaded with the first sound: a program without sound starts without it and
+/// runs where it is not installed.
+struct Library {
+    decltype(&ca_context_create) createContext = nullptr;
+    decltype(&ca_context_destroy) destroyContext = nullptr;
+    decltype(&ca_context_change_props) describe = nullptr;
+    decltype(&ca_context_play_full) play = nullptr;
+    decltype(&ca_proplist_create) createList = nullptr;
+    decltype(&ca_proplist_sets) set = nullptr;
+    decltype(&ca_proplist_destroy) destroyList = nullptr;
+
+    /// False: there is no such library here.
+    bool Load()
+    {
+        void* const library = dlopen("libcanberra.so.0", RTLD_NOW);
+        return library != nullptr && Find(library, "ca_context_create", createContext) &&
+               Find(library, "ca_context_destroy", destroyContext) &&
+               Find(library, "ca_context_change_props", describe) &&
+               Find(library, "ca_context_play_full", play) &&
+               Find(library, "ca_proplist_create", createList) &&
+               Find(library, "ca_proplist_sets", set) &&
+               Find(library, "ca_proplist_destroy", destroyList);
+    }
+
+private:
+    template <class Function> static bool Find(void* library, const char* name, Function& function)
+    {
+        function = reinterpret_cast<Function>(dlsym(library, name));
+        return function != nullptr;
+    }
+};
+
 /// A sound that could not begin within this time, as while the device was being opened, is not wanted
 /// any more.
 constexpr std::chrono::milliseconds Patience{1000};
@@ -80,15 +112,7 @@ private:
 
     void Run()
     {
-        QuietDeviceErrors();
-        ca_context* context = nullptr;
-        if (ca_context_create(&context) != CA_SUCCESS) {
-            context = nullptr;
-        }
-        if (context != nullptr) {
-            ca_context_change_props(context, CA_PROP_APPLICATION_NAME, "Tessarine", CA_PROP_APPLICATION_ID,
-                                    "tessarine", nullptr);
-        }
+        ca_context* const context = Open();
         std::unique_lock lock(mutex_);
         while (true) {
             changed_.wait(lock, [this] { return ending_ || !wanted_.empty(); });
@@ -97,13 +121,10 @@ private:
             }
             const Wish wish = wanted_.front();
             wanted_.pop_front();
-            if (context == nullptr || Clock::now() - wish.since > Patience) {
-                changed_.notify_all();
-                continue;
-            }
             busy_ = true;
             lock.unlock();
-            const bool begun = Begin(context, wish.path);
+            const bool isLate = Clock::now() - wish.since > Patience;
+            const bool begun = context != nullptr && !isLate && Begin(context, wish.path);
             lock.lock();
             busy_ = false;
             playing_ += begun ? 1 : 0;
@@ -111,21 +132,34 @@ private:
         }
         lock.unlock();
         if (context != nullptr) {
-            ca_context_destroy(context);
+            library_.destroyContext(context);
         }
+    }
+
+    /// None where there is no sound.
+    ca_context* Open()
+    {
+        QuietDeviceErrors();
+        ca_context* context = nullptr;
+        if (!library_.Load() || library_.createContext(&context) != CA_SUCCESS) {
+            return nullptr;
+        }
+        library_.describe(context, CA_PROP_APPLICATION_NAME, "Tessarine", CA_PROP_APPLICATION_ID,
+                          "tessarine", nullptr);
+        return context;
     }
 
     bool Begin(ca_context* context, const std::string& path)
     {
         ca_proplist* facts = nullptr;
-        if (ca_proplist_create(&facts) != CA_SUCCESS) {
+        if (library_.createList(&facts) != CA_SUCCESS) {
             return false;
         }
-        ca_proplist_sets(facts, CA_PROP_MEDIA_FILENAME, path.c_str());
-        ca_proplist_sets(facts, CA_PROP_MEDIA_ROLE, "game");
-        ca_proplist_sets(facts, CA_PROP_CANBERRA_CACHE_CONTROL, "never");
-        const int result = ca_context_play_full(context, ++number_, facts, &Player::Ended, this);
-        ca_proplist_destroy(facts);
+        library_.set(facts, CA_PROP_MEDIA_FILENAME, path.c_str());
+        library_.set(facts, CA_PROP_MEDIA_ROLE, "game");
+        library_.set(facts, CA_PROP_CANBERRA_CACHE_CONTROL, "never");
+        const int result = library_.play(context, ++number_, facts, &Player::Ended, this);
+        library_.destroyList(facts);
         return result == CA_SUCCESS;
     }
 
@@ -140,6 +174,7 @@ private:
         self.changed_.notify_all();
     }
 
+    Library library_;
     std::mutex mutex_;
     std::condition_variable changed_;
     std::deque<Wish> wanted_;

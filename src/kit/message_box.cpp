@@ -82,6 +82,7 @@ MsgForm::MsgForm(Forms& forms) : Form(forms, {}, {3 * ButtonSize.width, 2 * Butt
 {
     // Every message gives the form a size of its own.
     HasCloseBox = false;
+    SetIcon(icons::Program());
 
     Label1.Move(LabelPlace.x, LabelPlace.y);
     Add(Label1);

@@ -23,6 +23,12 @@ void Place(Container& on, Control& control, const Bounds& bounds)
     on.Add(control);
 }
 
+/// A bare number tells a listener nothing: "Won this session: 3".
+void NameCounter(Label& counter, const std::string& title, const std::string& column)
+{
+    counter.Describe = [&counter, name = title + column + ": "] { return name + counter.Caption(); };
+}
+
 std::vector<std::string> FieldsOf(std::string_view line)
 {
     std::vector<std::string> fields;
@@ -73,6 +79,10 @@ void ScoresBox::PlaceParts()
         const bool isHead = row == Head;
         ThisSession[row].SetCaption(isHead ? " This Session" : "0");
         AllSessions[row].SetCaption(isHead ? " Total" : "0");
+        if (!isHead) {
+            NameCounter(ThisSession[row], titles[row - 1], "this session");
+            NameCounter(AllSessions[row], titles[row - 1], "total");
+        }
         Place(Frame1, ThisSession[row], {1215, rowTops[row], isHead ? 1275.0 : 900.0, 255});
         Place(Frame1, AllSessions[row], {2565, rowTops[row], isHead ? 1005.0 : 900.0, 255});
         for (Label* label : {&ThisSession[row], &AllSessions[row]}) {

@@ -1,0 +1,49 @@
+#include "contract/platform_contract.h"
+
+#include "stage.h"
+
+#include <QElapsedTimer>
+#include <QTemporaryDir>
+
+namespace tessarine::contract
+{
+namespace
+{
+
+class DesktopWorld
+{
+public:
+    DesktopWorld() { clock_.start(); }
+
+    Platform& platform() { return platform_; }
+    std::string WritableFolder() { return folder_.path().toStdString() + '/'; }
+    std::int64_t Milliseconds() { return clock_.elapsed(); }
+    void LetTimePass(int milliseconds) { QTest::qWait(milliseconds); }
+    void WhenModal(std::function<void()> user) { tessarine::WhenModal(std::move(user)); }
+    void Click(Control& control) { Hand(platform_).Click(control); }
+    void MakeRefuse(Form& form)
+    {
+        platform_.WindowOf(form)->showMaximized();
+        LetTimePass(20);
+    }
+    int DrawingsOf(Control& control)
+    {
+        if (!watching_) {
+            paints_.Watch(WidgetOf(platform_, control));
+            watching_ = true;
+        }
+        return paints_.events;
+    }
+
+private:
+    DesktopPlatform platform_;
+    PaintCounter paints_;
+    bool watching_ = false;
+    QTemporaryDir folder_;
+    QElapsedTimer clock_;
+};
+
+INSTANTIATE_TYPED_TEST_SUITE_P(Desktop, PlatformContract, DesktopWorld);
+
+} // namespace
+} // namespace tessarine::contract

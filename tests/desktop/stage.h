@@ -1,0 +1,129 @@
+// A desktop for a test, and hands for the user.
+#pragma once
+
+#include "desktop/desktop_platform.h"
+#include "desktop/pixels.h"
+#include "runtime/controls.h"
+#include "runtime/form.h"
+
+#include <QApplication>
+#include <QPaintEvent>
+#include <QTest>
+#include <QTimer>
+#include <QWindow>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <string>
+#include <utility>
+
+namespace tessarine
+{
+
+/// The user's pointer, at a place of a control in logical pixels from its corner. Goes the whole way of
+/// the window system's events, so that a window behind a modal one gets nothing.
+class Hand
+{
+public:
+    explicit Hand(DesktopPlatform& platform) : platform_(platform) {}
+
+    void Press(const Control& control, QPoint at, Qt::MouseButton button = Qt::LeftButton)
+    {
+        QTest::mousePress(&WindowOf(control), button, {}, PlaceOf(control, at));
+    }
+    void Move(const Control& control, QPoint at)
+    {
+        QTest::mouseMove(&WindowOf(control), PlaceOf(control, at));
+    }
+    void Release(const Control& control, QPoint at, Qt::MouseButton button = Qt::LeftButton)
+    {
+        QTest::mouseRelease(&WindowOf(control), button, {}, PlaceOf(control, at));
+    }
+    void Click(const Control& control, QPoint at, Qt::MouseButton button = Qt::LeftButton)
+    {
+        Press(control, at, button);
+        if (platform_.WindowOf(*control.OwnerForm()) != nullptr) { // the press may have ended it
+            Release(control, at, button);
+        }
+    }
+    void Click(const Control& control, Qt::MouseButton button = Qt::LeftButton)
+    {
+        Click(control, ToPixelPoint({control.Width() / 2, control.Height() / 2}), button);
+    }
+    void Type(const Control& control, Qt::Key key) { QTest::keyClick(&WindowOf(control), key); }
+
+private:
+    static QPoint ToPixelPoint(Point point)
+    {
+        return {NearestPixel(point.x * PixelsPerTwip), NearestPixel(point.y * PixelsPerTwip)};
+    }
+    static QPoint PlaceOf(const Control& control, QPoint at)
+    {
+        return ToPixelPoint(control.PlaceOnForm()) + at;
+    }
+    QWindow& WindowOf(const Control& control)
+    {
+        return *platform_.WindowOf(*control.OwnerForm())->windowHandle();
+    }
+
+    DesktopPlatform& platform_;
+};
+
+/// The widget of a windowed control on a shown form.
+inline QWidget& WidgetOf(const DesktopPlatform& platform, const Control& control)
+{
+    FormWindow& window = *platform.WindowOf(*control.OwnerForm());
+    for (QWidget* widget : window.findChildren<QWidget*>()) {
+        if (const Peer* peer = PeerBehind(widget); peer != nullptr && peer->TheControl() == &control) {
+            return *widget;
+        }
+    }
+    return window;
+}
+
+/// Counts what is painted on widgets.
+class PaintCounter : public QObject
+{
+public:
+    void Watch(QWidget& widget) { widget.installEventFilter(this); }
+
+    int events = 0;
+    int pixels = 0;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::Paint) {
+            ++events;
+            for (const QRect& rect : static_cast<QPaintEvent*>(event)->region()) {
+                pixels += rect.width() * rect.height();
+            }
+        }
+        return QObject::eventFilter(watched, event);
+    }
+};
+
+/// Runs `user` as soon as the next modal window is open.
+inline void WhenModal(std::function<void()> user)
+{
+    QTimer::singleShot(2, qApp, [user = std::move(user), before = QApplication::activeModalWidget()] {
+        if (QApplication::activeModalWidget() == before) {
+            WhenModal(user);
+        } else {
+            user();
+        }
+    });
+}
+
+class DesktopTest : public testing::Test
+{
+protected:
+    void Events() { QTest::qWait(1); }
+
+    DesktopPlatform platform;
+    Forms forms{platform};
+    Hand hand{platform};
+};
+
+} // namespace tessarine
