@@ -9,9 +9,9 @@ namespace tessarine
 namespace
 {
 
-class ColourPicker : public testing::Test
-{
-protected:
+constexpr Colour Base = Rgb(200, 100, 50);
+
+struct ColourPicker : testing::Test {
     ColourPicker()
     {
         form.Add(picker);
@@ -20,14 +20,18 @@ protected:
         form.Show();
     }
 
-    void Click(Twips x, Twips y) { DragFromTo({x, y}, {x, y}); }
-    void DragFromTo(Point from, Point to)
+    void Drag(Point from, Point to)
     {
         platform.Press(form, picker.Left() + from.x, picker.Top() + from.y);
         platform.Release(form, picker.Left() + to.x, picker.Top() + to.y);
     }
-    void ClickUnits(double x, double y) { Click(x * ColPik::UnitAcross, y * ColPik::UnitDown); }
-
+    /// The colour that a click takes; a place in the units of the drawing.
+    Colour Click(double x, double y)
+    {
+        const Point at{x * ColPik::UnitAcross, y * ColPik::UnitDown};
+        Drag(at, at);
+        return picker.SchemeColor();
+    }
     /// What the bars of shades were drawn for.
     Colour BarColour()
     {
@@ -43,119 +47,69 @@ protected:
 
 TEST_F(ColourPicker, RaisesOneEventForEachChannelThatChanges)
 {
-    EXPECT_EQ(picker.SchemeColor(), PaletteColour(7));
+    picker.SetSchemeColor(Rgb(1, 2, 3));
     picker.SetSchemeColor(Rgb(1, 2, 3));
     EXPECT_EQ(events, (std::vector<Colour>{Rgb(1, 192, 192), Rgb(1, 2, 192), Rgb(1, 2, 3)}));
-    EXPECT_EQ(picker.SchemeColor(), Rgb(1, 2, 3));
-    EXPECT_EQ(BarColour(), Rgb(1, 2, 3));
     EXPECT_EQ(picker.lblBlueDegree.Caption(), "3");
-    EXPECT_EQ(picker.PicRGB[1].BackColor(), Rgb(0, 2, 0));
-
-    events.clear();
-    picker.SetSchemeColor(Rgb(1, 2, 3));
-    EXPECT_TRUE(events.empty());
     picker.hsrGreen.UserSets(200);
-    EXPECT_EQ(events, std::vector<Colour>{Rgb(1, 200, 3)});
     EXPECT_EQ(BarColour(), Rgb(1, 200, 3));
-
     picker.SetSchemeColor(WindowBackground);
     EXPECT_EQ(events.back(), White);
-    EXPECT_EQ(picker.SchemeColor(), White);
-}
-
-TEST_F(ColourPicker, LaidOutAnewStartsAnew)
-{
-    picker.SetSchemeColor(Black);
-    picker.SetHeight(1605);
-    EXPECT_EQ(picker.SchemeColor(), PaletteColour(7));
+    picker.SetHeight(1605); // laid out anew it starts anew
     EXPECT_EQ(BarColour(), PaletteColour(7));
-}
-
-TEST_F(ColourPicker, ShadesRunFromBlackAndWhiteToTheColour)
-{
-    EXPECT_EQ(ColPik::clrBlackness(Rgb(1, 3, 200), 128), Rgb(0, 2, 100)) << "halves to the even number";
-    EXPECT_EQ(ColPik::clrWhiteness(Rgb(254, 252, 55), 128), Rgb(254, 254, 155));
-    EXPECT_EQ(ColPik::clrBlackness(Rgb(9, 8, 7), 0), Black);
-    EXPECT_EQ(ColPik::clrWhiteness(Rgb(9, 8, 7), 0), White);
-    EXPECT_EQ(ColPik::clrBlackness(Rgb(9, 8, 7), 256), Rgb(9, 8, 7));
-    EXPECT_EQ(ColPik::clrWhiteness(Rgb(9, 8, 7), 256), Rgb(9, 8, 7));
 }
 
 TEST_F(ColourPicker, AClickOnThePaletteTakesTheCellAndDrawsTheBars)
 {
-    ClickUnits(65 * 3 - 20, 225 * 2 - 50); // second row, third column
-    EXPECT_EQ(picker.SchemeColor(), PaletteColour(6));
-    EXPECT_EQ(BarColour(), PaletteColour(6));
-    const auto count = events.size();
-    ClickUnits(65 * 3 - 20, 225 * 2 - 50);
-    EXPECT_EQ(events.size(), count + 1) << "the same colour is an event all the same";
-
-    ClickUnits(100, 242); // between two rows
-    EXPECT_EQ(picker.SchemeColor(), White);
-    ClickUnits(5, 100); // left of the first column
-    EXPECT_EQ(picker.SchemeColor(), White);
-}
-
-TEST_F(ColourPicker, TheLastRowReachesBelowWhereTheBarsStayAsTheyAre)
-{
-    const Colour before = BarColour();
-    ClickUnits(40, 900);
-    EXPECT_EQ(picker.SchemeColor(), PaletteColour(12));
-    EXPECT_EQ(BarColour(), before);
-    ClickUnits(105, 899);
-    EXPECT_EQ(picker.SchemeColor(), PaletteColour(13));
+    picker.SetSchemeColor(PaletteColour(6));
+    events.clear();                   // and the same colour is an event all the same
+    Click(65 * 3 - 20, 225 * 2 - 50); // second row, third column
+    EXPECT_EQ(events, std::vector<Colour>{PaletteColour(6)});
+    EXPECT_EQ(Click(100, 242), White); // between two rows
+    // The last row reaches below where the bars stay as they are.
+    EXPECT_EQ(Click(40, 900), PaletteColour(12));
+    EXPECT_EQ(BarColour(), White);
+    EXPECT_EQ(Click(105, 899), PaletteColour(13));
     EXPECT_EQ(BarColour(), PaletteColour(13));
 }
 
 TEST_F(ColourPicker, AClickOnALineOfABarTakesItsShadeAndKeepsTheBars)
 {
-    const Colour base = Rgb(200, 100, 50);
-    picker.SetSchemeColor(base);
-    std::vector<Colour> taken;
-    std::vector<Colour> wanted;
+    EXPECT_EQ(ColPik::clrBlackness(Rgb(1, 3, 200), 128), Rgb(0, 2, 100)) << "halves to the even number";
+    EXPECT_EQ(ColPik::clrWhiteness(Rgb(254, 252, 55), 128), Rgb(254, 254, 155));
+    EXPECT_EQ(ColPik::clrWhiteness(Base, 0), White);
+    picker.SetSchemeColor(Base);
     for (Whole level = 0; level <= ColPik::FullLevel; ++level) {
-        ClickUnits(10 + level, 1000);
-        taken.push_back(events.back());
-        wanted.push_back(ColPik::clrBlackness(base, level));
-        ClickUnits(10 + level, 1300);
-        taken.push_back(picker.SchemeColor());
-        wanted.push_back(ColPik::clrWhiteness(base, level));
+        EXPECT_EQ(Click(10 + level, 1000), ColPik::clrBlackness(Base, level)) << level;
+        EXPECT_EQ(Click(10 + level, 1300), ColPik::clrWhiteness(Base, level)) << level;
     }
-    EXPECT_EQ(taken, wanted);
-    EXPECT_EQ(BarColour(), base);
-    ClickUnits(100, 1162); // between the bars
-    EXPECT_EQ(picker.SchemeColor(), White);
+    EXPECT_EQ(BarColour(), Base);
+    EXPECT_EQ(Click(100, 1162), White); // between the bars
     picker.hsrRed.UserSets(7);
     EXPECT_EQ(BarColour(), Rgb(7, 255, 255)) << "after a click the bars follow again";
 }
 
 TEST_F(ColourPicker, AScreenPixelGivesTheShadeThatItShows)
 {
-    const Colour base = Rgb(200, 100, 50);
-    picker.SetSchemeColor(base);
+    picker.SetSchemeColor(Base);
     for (int pixel = 2; pixel <= 65; ++pixel) {
-        const Twips x = pixel * TwipsPerPixel;
-        Click(x, 1050);
-        EXPECT_EQ(picker.SchemeColor(), picker.Drawing().ColourAt({x, 1050}, TwipsPerPixel)) << pixel;
+        const Point at{pixel * 15.0, 1050};
+        Drag(at, at);
+        const Colour taken = picker.SchemeColor();
+        EXPECT_EQ(taken, picker.Drawing().ColourAt(at, TwipsPerPixel)) << pixel;
+        EXPECT_EQ(taken == Black, pixel == 2) << "the first pixel of the bar is black";
+        EXPECT_EQ(taken == Base, pixel == 65) << "and the last one the colour itself";
     }
-    EXPECT_EQ(picker.SchemeColor(), base) << "the last pixel of the bar is the colour itself";
-    Click(2 * TwipsPerPixel, 1050);
-    EXPECT_EQ(picker.SchemeColor(), Black) << "and its first is black";
 }
 
 TEST_F(ColourPicker, OnlyAReleaseOnTheSurfaceItselfCounts)
 {
-    Click(picker.Label2.Left() + 10, picker.Label2.Top() + 10);
-    DragFromTo({100, 100}, {1200, 500}); // ends on a scroll bar
-    DragFromTo({100, 100}, {-20, 100});  // ends outside
-    DragFromTo({100, 100}, {100, 1700});
-    EXPECT_TRUE(events.empty());
-    DragFromTo({100, 100}, {65 * ColPik::UnitAcross - 10, 100});
-    EXPECT_EQ(events.back(), Black);
-
-    events.clear();
+    const Point label{picker.Label2.Left() + 10, picker.Label2.Top() + 10};
+    for (const Point end : {label, Point{1200, 500}, Point{-20, 100}, Point{100, 1700}}) {
+        Drag({100, 100}, end);
+    }
     picker.SetEnabled(false);
-    ClickUnits(150, 100);
+    Drag({100, 100}, {100, 100});
     picker.hsrRed.UserSets(12);
     EXPECT_TRUE(events.empty());
 }

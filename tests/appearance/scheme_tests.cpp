@@ -1,300 +1,319 @@
-// Colour schemes: as they are made, read, and changed on the disk.
-#include "appearance_world.h"
-
+// Colour schemes as they are made, read and changed on the disk, and the dialog that does it.
 #include "appearance/apply_scheme.h"
-#include "appearance/readable_on.h"
+#include "appearance/options_dialog.h"
+#include "appearance/scheme_file.h"
+#include "headless/headless_platform.h"
+#include "runtime/files.h"
 
 #include <gtest/gtest.h>
 
-#include <cmath>
+#include <string>
+#include <utility>
+#include <vector>
 
 namespace tessarine
 {
 namespace
 {
 
-std::vector<Colour> ShiftedSlots(const Dress& dress)
+/// An entry whose slots are grey, each 10 lighter than the one before: slot 2 is 60, slot 4 is 80.
+std::string GreyEntry(const std::string& nameLine, int darkest = 40)
 {
-    return {dress.SchemeColors.begin() + 3, dress.SchemeColors.begin() + 9};
-}
-
-TEST(MakeScheme, ShiftsTheBackgroundAndHoldsItWithinShades)
-{
-    Dress dress;
-    MakeScheme(dress, Rgb(100, 150, 200), 100);
-    EXPECT_EQ(ShiftedSlots(dress),
-              (std::vector<Colour>{Rgb(1, 22, 72), Rgb(68, 118, 168), Rgb(36, 86, 136),
-                                   Rgb(228, 244, 244), Rgb(132, 182, 232), Rgb(164, 214, 244)}));
-    MakeScheme(dress, Rgb(100, 150, 200), 50);
-    EXPECT_EQ(ShiftedSlots(dress),
-              (std::vector<Colour>{Rgb(36, 86, 136), Rgb(84, 134, 184), Rgb(68, 118, 168),
-                                   Rgb(164, 214, 244), Rgb(116, 166, 216), Rgb(132, 182, 232)}));
-    EXPECT_EQ(dress.SchemeColors[9], Rgb(128, 0, 0));
-    EXPECT_EQ(dress.SchemeColors[12], Rgb(0, 255, 0));
-    MakeScheme(dress, Grey(100), 5);
-    EXPECT_EQ(dress.Button(), Grey(98)) << "a shift of 1.6";
-    MakeScheme(dress, Rgb(0, 255, 100), 0);
-    EXPECT_EQ(ShiftedSlots(dress), std::vector<Colour>(6, Rgb(1, 244, 100)));
-    EXPECT_EQ(dress.Background(), Rgb(0, 255, 100)) << "the background itself isn't held";
-}
-
-TEST(ReadableOn, StandsOutFromEveryGrey)
-{
-    const auto brightness = [](int grey) {
-        return grey <= 10 ? grey / 255.0 / 12.92 : std::pow((grey / 255.0 + 0.055) / 1.055, 2.4);
-    };
-    for (int grey = 0; grey < 256; ++grey) {
-        const double dark = ReadableOn(Grey(grey)) == Black ? 0.05 : brightness(grey) + 0.05;
-        const double light = ReadableOn(Grey(grey)) == Black ? brightness(grey) + 0.05 : 1.05;
-        EXPECT_GE(light / dark, 4.5) << grey;
-    }
-}
-
-std::string EntryWith(const std::string& background, const std::string& button)
-{
-    std::string text = "edge.col\r\n 1; 1; 1\r\n 2; 2; 2\r\n" + background + "\r\nnonsense; 7\r\n" +
-                       button + "\r\nx;y;z;4\r\n";
-    for (int slot = 6; slot < 13; ++slot) {
-        text += " 9; 9; 9; 9\r\n";
+    std::string text = nameLine + "\r\n";
+    for (std::size_t slot = 0; slot < StoredSlots; ++slot) {
+        const std::string grey = NumberText(darkest + 10 * static_cast<int>(slot));
+        text += grey + ';' + grey + ';' + grey + "\r\n";
     }
     return text;
 }
 
-TEST(ReadScheme, DerivesTheEdgesFromWhatWasReadBeforeThem)
+constexpr Colour Grey(int level)
 {
-    AppearanceWorld world;
-    world.AllCol() = EntryWith(" 224; 225; 223", "32;33;31");
-    world.store.ReadScheme("edge.col");
-    EXPECT_EQ(world.module.SchemeColors[3], Rgb(255, 254, 255));
-    EXPECT_EQ(world.module.SchemeColors[5], Rgb(8, 1, 8));
+    return Rgb(level, level, level);
+}
 
+/// A program that consists of the options dialog and what it stands on.
+struct AppearanceWorld {
+    AppearanceWorld()
+    {
+        module.AppDir = "/program/";
+        module.AllColFile = "/program/all.col";
+        module.SchemeFile = "grey.col";
+        FillBuiltInScheme(module);
+        platform.files[module.AllColFile] =
+            GreyEntry("default.col", 100) + GreyEntry("grey.col") + GreyEntry("slate.col", 60);
+        dialog.FillSchemeList();
+    }
+
+    std::string& AllCol() { return platform.files[module.AllColFile]; }
+    void PickScheme(const std::string& name)
+    {
+        dialog.List1.UserPicks(*dialog.List1.Items().Find(name));
+    }
+    /// Presses a button of the dialog, with this answer to what it asks, and tells what it told.
+    std::string Press(BoxControl& button, bool agrees = true)
+    {
+        platform.plainAnswers = {agrees};
+        platform.plainMessages.emplace_back();
+        button.UserActivates();
+        return platform.plainMessages.back();
+    }
+
+    HeadlessPlatform platform;
+    Forms forms{platform};
+    Module1 module;
+    MsgForm messageBox{forms};
+    SchemeStore store{module, messageBox};
+    Sound sound{platform, module.AppDir, module.SoundOn};
+    Label table;
+    BoxControl tableButton;
+    Form6 dialog{forms, module, store, messageBox, sound, [this] {
+                     store.ReadScheme(module.SchemeFile);
+                     ApplyScheme(module, {{&table}, {&tableButton}, messageBox});
+                 }};
+};
+
+struct Schemes : testing::Test, AppearanceWorld {
+};
+
+TEST_F(Schemes, AreShiftedFromTheBackgroundAndHeldWithinShades)
+{
+    const auto shifted = [this](Colour background, Whole contrast) {
+        MakeScheme(module, background, contrast);
+        return std::vector<Colour>{module.SchemeColors.begin() + 3, module.SchemeColors.begin() + 9};
+    };
+    EXPECT_EQ(shifted(Rgb(100, 150, 200), 100),
+              (std::vector<Colour>{Rgb(1, 22, 72), Rgb(68, 118, 168), Rgb(36, 86, 136),
+                                   Rgb(228, 244, 244), Rgb(132, 182, 232), Rgb(164, 214, 244)}));
+    EXPECT_EQ(shifted(Grey(100), 5)[1], Grey(98)) << "a shift of 1.6";
+    EXPECT_EQ(shifted(Rgb(0, 255, 100), 0), std::vector<Colour>(6, Rgb(1, 244, 100)));
+    EXPECT_EQ(module.Background(), Rgb(0, 255, 100)) << "the background itself isn't held";
+}
+
+std::string EntryWith(const std::string& background, const std::string& button)
+{
+    std::string text = GreyEntry("edge.col");
+    text.replace(text.find(" 80; 80; 80"), 11, button);
+    return text.replace(text.find(" 60; 60; 60"), 11, background);
+}
+
+TEST_F(Schemes, AreReadWithTheirEdgesDerivedAndPreviewedAsTheFileStands)
+{
+    const auto edges = [this] { return std::pair(module.SchemeColors[3], module.SchemeColors[5]); };
+    AllCol() = EntryWith(" 224; 225; 223", "32;33;31; 7");
+    store.ReadScheme("edge.col");
+    EXPECT_EQ(edges(), std::pair(Rgb(255, 254, 255), Rgb(8, 1, 8)));
     // Components too large count whole for the edges, negative and missing ones as 0.
-    world.AllCol() = EntryWith("300;-4", "400");
-    world.store.ReadScheme("edge.col");
-    EXPECT_EQ(world.module.Background(), Rgb(255, 0, 0));
-    EXPECT_EQ(world.module.SchemeColors[3], Rgb(254, 32, 32));
-    EXPECT_EQ(world.module.SchemeColors[5], Rgb(255, 8, 8));
-    EXPECT_EQ(world.platform.unscriptedModals, 0);
+    AllCol() = EntryWith("300;-4", "400");
+    store.ReadScheme("edge.col");
+    EXPECT_EQ(edges(), std::pair(Rgb(254, 32, 32), Rgb(255, 8, 8)));
+    EXPECT_EQ(store.PreviewScheme("edge.col"), Rgb(255, 0, 0));
+    EXPECT_EQ(edges(), std::pair(Grey(70), Grey(90)));
+    platform.files.clear();
+    EXPECT_EQ(store.PreviewScheme("DEFAULT.col"), White) << "from no file";
+    EXPECT_EQ(edges(), std::pair(Black, Grey(90)));
+    EXPECT_EQ(module.SchemeFile, "grey.col");
 }
 
-TEST(PreviewScheme, TakesTheFileAsItStandsAndTheDefaultFromNoFile)
+TEST_F(Schemes, ThatAreNotThereFallBackToTheDefaultName)
 {
-    AppearanceWorld world;
-    world.AllCol() = EntryWith("100; 2.5;3.5", "0;0;0");
-    EXPECT_EQ(world.store.PreviewScheme("edge.col"), Rgb(100, 2, 4));
-    EXPECT_EQ(world.module.SchemeColors[3], Rgb(0, 7, 0));
-    EXPECT_EQ(world.module.SchemeColors[5], Black);
-    EXPECT_EQ(world.module.SchemeColors[6], Rgb(9, 9, 9));
-
-    world.platform.files.clear();
-    EXPECT_EQ(world.store.PreviewScheme("DEFAULT.col"), White);
-    EXPECT_EQ(world.module.Button(), White);
-    EXPECT_EQ(world.module.SchemeColors[3], Black);
-    EXPECT_EQ(world.module.SchemeColors[6], Rgb(9, 9, 9));
-    EXPECT_EQ(world.module.SchemeFile, "grey.col");
-    EXPECT_TRUE(world.platform.plainMessages.empty());
-}
-
-TEST(ReadingAScheme, ThatIsNotThereFallsBackToTheDefaultName)
-{
-    AppearanceWorld world;
-    const auto before = world.module.SchemeColors;
-    world.store.ReadScheme("Grey.col"); // the case counts
-    EXPECT_EQ(world.messageBox.Label1.Caption(), "Colour Scheme: Grey.col not found");
-    EXPECT_EQ(world.module.SchemeFile, "default.col");
-    EXPECT_EQ(world.module.SchemeColors, before);
-
-    world.module.SchemeFile = "grey.col";
-    EXPECT_EQ(world.store.PreviewScheme("gone.col"), Black);
-    EXPECT_EQ(world.LastMessage(), "Color Scheme: gone.col not found");
-    EXPECT_EQ(world.module.SchemeFile, "default.col");
-
-    // An entry that breaks off counts as not found, and what was read of it stays.
-    std::string& text = world.AllCol();
-    text.resize(text.size() - std::string(" 180; 180; 180\r\n").size());
-    world.module.SchemeFile = "slate.col";
-    world.store.ReadScheme(world.module.SchemeFile);
-    EXPECT_EQ(world.messageBox.Label1.Caption(), "Colour Scheme: slate.col not found");
-    EXPECT_EQ(world.module.Background(), Grey(80));
-    EXPECT_EQ(world.module.SchemeColors[12], before[12]);
-
-    world.platform.files.clear();
-    world.store.ReadScheme("other.col");
-    EXPECT_EQ(world.messageBox.Label1.Caption(), "Colour Scheme: other.col not found");
-}
-
-TEST(SchemeFile, ListsNamesAndWritesWhatItReads)
-{
-    EXPECT_EQ(SchemeNames("Sea.col\n 1; 2; 3\n.col\r\nx.col.col and more\r\nlast.col"),
-              (std::vector<std::string>{"Sea", "", "x", "last"}));
-    Dress dress;
-    MakeScheme(dress, Rgb(100, 150, 200), 100);
-    const std::string entry = EntryText("sea.col", dress);
-    EXPECT_TRUE(entry.starts_with("sea.col\r\n 1; 1; 1\r\n 240; 240; 240\r\n 100; 150; 200\r\n"));
-    Dress back;
-    ASSERT_TRUE(ReadEntry(entry, "sea.col", SlotSource::File, back));
-    EXPECT_EQ(back.SchemeColors, dress.SchemeColors);
-}
-
-TEST(ApplyScheme, PaintsWhatWearsTheScheme)
-{
-    AppearanceWorld world;
-    world.module.ButtonColorIndex = 9;
-    Label surface;
-    BoxControl button;
-    ApplyScheme(world.module, {{&surface}, {&button}, world.messageBox});
-    EXPECT_EQ(surface.BackColor(), world.module.SchemeColors[2]);
-    EXPECT_EQ(button.BackColor(), world.module.SchemeColors[4]);
-    EXPECT_EQ(world.messageBox.BackColor(), world.module.SchemeColors[2]);
-    EXPECT_EQ(world.messageBox.ButtonColour, world.module.SchemeColors[4]);
-    EXPECT_EQ(world.messageBox.ForeColor(), world.module.DarkColor);
-}
-
-TEST(SchemeCommands, AddRefusesEveryBeginningOfATakenName)
-{
-    AppearanceWorld world;
-    const std::string before = world.AllCol();
-    world.platform.typedAnswers = {"", "GREY", "sl"};
-    for (int press = 0; press < 3; ++press) {
-        world.dialog.addsch.UserActivates();
+    EXPECT_EQ(store.PreviewScheme("gone.col"), Black);
+    EXPECT_EQ(platform.plainMessages.back(), "Color Scheme: gone.col not found");
+    EXPECT_EQ(module.SchemeFile, "default.col");
+    // The case counts, and an entry that breaks off is none, though what was read of it stays.
+    const auto before = module.SchemeColors;
+    AllCol().resize(AllCol().size() - 20);
+    for (const std::string name : {"Grey.col", "slate.col"}) {
+        EXPECT_EQ(module.SchemeColors, before);
+        module.SchemeFile = name;
+        store.ReadScheme(name);
+        EXPECT_EQ(messageBox.Label1.Caption(), "Colour Scheme: " + name + " not found");
+        EXPECT_EQ(module.SchemeFile, "default.col");
     }
-    EXPECT_EQ(world.platform.plainMessages,
-              (std::vector<std::string>{"Color Scheme: GREY already exists",
-                                        "Color Scheme: sl already exists"}));
-    EXPECT_EQ(world.AllCol(), before);
-
-    world.PickScheme("slate");
-    world.platform.typedAnswers = {"Greyer"};
-    world.dialog.addsch.UserActivates();
-    EXPECT_EQ(world.LastMessage(), "Color Scheme: Greyer added");
-    EXPECT_EQ(world.AllCol(), before + EntryText("greyer.col", world.module));
-    EXPECT_EQ(world.Listed(), (std::vector<std::string>{"default", "grey", "greyer", "slate"}));
-    EXPECT_FALSE(world.dialog.List1.Selected().has_value());
+    EXPECT_EQ(module.Background(), Grey(80));
 }
 
-TEST(SchemeCommands, AddMakesTheFileAndMendsItsLastLine)
+TEST_F(Schemes, AreAddedUnlessTheNameBeginsATakenOne)
 {
-    AppearanceWorld world;
-    world.platform.files.clear();
-    world.platform.typedAnswers = {"one", "two"};
-    world.dialog.addsch.UserActivates();
-    EXPECT_EQ(world.AllCol(), EntryText("one.col", world.module));
-    world.AllCol().resize(world.AllCol().size() - LineEnd.size());
-    world.dialog.addsch.UserActivates();
-    EXPECT_EQ(world.AllCol(), EntryText("one.col", world.module) + EntryText("two.col", world.module));
+    const std::string before = AllCol();
+    platform.typedAnswers = {"", "GREY", "sl", "Greyer", "one", "two"};
+    PickScheme("slate");
+    EXPECT_EQ(Press(dialog.addsch), "");
+    EXPECT_EQ(Press(dialog.addsch), "Color Scheme: GREY already exists");
+    EXPECT_EQ(Press(dialog.addsch), "Color Scheme: sl already exists");
+    EXPECT_EQ(Press(dialog.addsch), "Color Scheme: Greyer added");
+    EXPECT_EQ(AllCol(), before + EntryText("greyer.col", module));
+    EXPECT_EQ(dialog.List1.Items().Find("greyer"), 2U);
+    platform.files.clear(); // the file is made if need be
+    Press(dialog.addsch);
+    AllCol().resize(AllCol().size() - LineEnd.size()); // and its last line mended
+    Press(dialog.addsch);
+    EXPECT_EQ(AllCol(), EntryText("one.col", module) + EntryText("two.col", module));
 }
 
-TEST(SchemeCommands, ReplaceKeepsThePlaceAndDeleteTakesTheEntryOut)
+TEST_F(Schemes, AreReplacedInTheirPlaceAndDeleted)
 {
-    AppearanceWorld world;
-    world.dialog.repsch.UserActivates();
-    world.dialog.delsch.UserActivates();
-    EXPECT_EQ(world.platform.plainMessages,
-              (std::vector<std::string>{"Select a color scheme to replace",
-                                        "Select a color scheme to delete"}));
+    EXPECT_EQ(Press(dialog.repsch), "Select a color scheme to replace");
+    PickScheme("grey");
+    MakeScheme(module, Rgb(1, 2, 3), 100);
+    const std::string made = EntryText("grey.col", module);
+    EXPECT_EQ(Press(dialog.repsch, false), "Replace color scheme: grey");
+    EXPECT_EQ(Press(dialog.repsch), "Color Scheme: grey.col replaced");
+    EXPECT_EQ(AllCol(), GreyEntry("default.col", 100) + made + GreyEntry("slate.col", 60));
+    EXPECT_EQ(platform.files["/program/newall.cox"], AllCol());
 
-    world.PickScheme("grey");
-    MakeScheme(world.module, Rgb(1, 2, 3), 100);
-    const std::string made = EntryText("grey.col", world.module);
-    world.platform.plainAnswers = {false, true};
-    world.dialog.repsch.UserActivates(); // no
-    EXPECT_EQ(world.LastMessage(), "Replace color scheme: grey");
-    world.dialog.repsch.UserActivates(); // yes
-    EXPECT_EQ(world.LastMessage(), "Color Scheme: grey.col replaced");
-    EXPECT_EQ(world.AllCol(), GreyEntry("default.col", 100) + made + GreyEntry("slate.col", 60));
-    EXPECT_EQ(world.platform.files["/program/newall.cox"], world.AllCol());
-    EXPECT_EQ(world.dialog.List1.SelectedText(), "grey");
-
-    world.module.SchemeFile = "GREY.col";
-    world.platform.plainAnswers = {true, true};
-    world.dialog.delsch.UserActivates();
-    EXPECT_EQ(world.LastMessage(), "Cannot delete currently active Color Scheme");
-    world.PickScheme("slate");
-    world.platform.plainAnswers = {true};
-    world.dialog.delsch.UserActivates();
-    EXPECT_EQ(world.LastMessage(), "Color Scheme: slate.col deleted");
-    EXPECT_EQ(world.AllCol(), GreyEntry("default.col", 100) + made);
-    EXPECT_EQ(world.platform.files["/program/newall.cox"], world.AllCol());
-    EXPECT_EQ(world.Listed(), (std::vector<std::string>{"default", "grey"}));
+    module.SchemeFile = "GREY.col";
+    EXPECT_EQ(Press(dialog.delsch), "Cannot delete currently active Color Scheme");
+    PickScheme("slate");
+    EXPECT_EQ(Press(dialog.delsch), "Color Scheme: slate.col deleted");
+    EXPECT_EQ(AllCol(), GreyEntry("default.col", 100) + made);
+    EXPECT_EQ(dialog.List1.Items().Count(), 2U);
 }
 
-TEST(SchemeCommands, WithoutAnEntryNothingChangesAndAShortEntryIsRefused)
+TEST_F(Schemes, AreListedByTheirNamesAndAShortEntryIsRefused)
 {
-    AppearanceWorld world;
-    const std::string capital = GreyEntry("Sea.col");
-    world.AllCol() = capital + "short.col\r\n 1; 1; 1\r\n";
-    world.dialog.FillSchemeList();
-    world.PickScheme("Sea");
-    world.platform.plainAnswers = {true};
-    world.dialog.delsch.UserActivates();
-    EXPECT_EQ(world.LastMessage(), "Color Scheme: sea.col deleted");
-    EXPECT_EQ(world.AllCol(), capital + "short.col\r\n 1; 1; 1\r\n");
+    const std::string text = GreyEntry("Sea.col") + ".col\r\nx.col.col\r\nshort.col\r\n 1; 1; 1\r\n";
+    EXPECT_EQ(SchemeNames(text), (std::vector<std::string>{"Sea", "", "x", "short"}));
+    AllCol() = text;
+    dialog.FillSchemeList();
+    PickScheme("short");
+    EXPECT_EQ(Press(dialog.repsch), "Error in updating Color Scheme:\r\nshort.col");
+    PickScheme("Sea"); // no entry goes by its name in small letters
+    EXPECT_EQ(Press(dialog.delsch), "Color Scheme: sea.col deleted");
+    EXPECT_EQ(AllCol(), text);
+}
 
-    world.PickScheme("short");
-    for (BoxControl* button : {&world.dialog.repsch, &world.dialog.delsch}) {
-        world.platform.plainAnswers = {true};
-        button->UserActivates();
-        EXPECT_EQ(world.LastMessage(), "Error in updating Color Scheme:\r\nshort.col");
+TEST(FailingDisk, LeavesTheOldFileOrTheNewOne)
+{
+    const std::string update = "Error in updating Color Scheme:\r\nslate.col";
+    const std::vector<std::pair<BoxControl Form6::*, std::string>> commands = {
+        {&Form6::addsch, "Error in adding Color Scheme:\r\nnew.col"},
+        {&Form6::repsch, update},
+        {&Form6::delsch, update}};
+    for (const auto& [button, failure] : commands) {
+        std::string done;
+        for (const bool fromThere : {false, true}) {
+            bool reached = true;
+            for (int failing = -1; reached; ++failing) { // nothing fails at first
+                AppearanceWorld world;
+                const std::string old = world.AllCol();
+                world.platform.ResetFileOperations(failing, fromThere);
+                world.dialog.List1.Select(2); // slate, with no preview that would read the file
+                MakeScheme(world.module, Rgb(1, 2, 3), 100);
+                world.platform.typedAnswers = {"new"};
+                const bool failed = world.Press(world.dialog.*button) == failure;
+                reached = world.platform.fileOperations > failing;
+                EXPECT_EQ(failed, reached && failing >= 0) << failing;
+                done = failed ? done : world.AllCol();
+                EXPECT_TRUE(world.AllCol() == old || world.AllCol() == done) << failing;
+                EXPECT_FALSE(world.platform.files.contains("/program/all.col.part")) << failing;
+            }
+        }
     }
-    EXPECT_EQ(world.AllCol(), capital + "short.col\r\n 1; 1; 1\r\n");
 }
 
-struct Command {
-    std::string name;
-    BoxControl Form6::*button;
-    std::string failure;
-};
-
-class FailingDisk : public testing::TestWithParam<Command>
-{
-protected:
-    static void Run(AppearanceWorld& world)
+struct OptionsDialog : Schemes {
+    OptionsDialog()
     {
-        world.dialog.List1.Select(2); // slate, with no preview that would read the file
-        MakeScheme(world.module, Rgb(1, 2, 3), 100);
-        world.platform.typedAnswers = {"new"};
-        world.platform.plainAnswers = {true};
-        (world.dialog.*GetParam().button).UserActivates();
-    }
-
-    static void ExpectAllElseAsItWas(AppearanceWorld& world)
-    {
-        EXPECT_EQ(world.LastMessage(), GetParam().failure);
-        EXPECT_FALSE(world.platform.files.contains("/program/all.col.part"));
-        EXPECT_FALSE(world.platform.files.contains("/program/newall.cox.part"));
-        EXPECT_EQ(world.Listed(), (std::vector<std::string>{"default", "grey", "slate"}));
-        EXPECT_EQ(world.module.SchemeFile, "grey.col");
+        module.SuitColor = {Black, Rgb(0, 0, 128), Rgb(0, 128, 0), Rgb(128, 128, 0), Rgb(128, 0, 0)};
+        store.ReadScheme(module.SchemeFile);
+        dialog.Show();
     }
 };
 
-TEST_P(FailingDisk, LeavesTheOldFileOrTheNewOne)
+TEST_F(OptionsDialog, OpensOnWhatIsInForce)
 {
-    const std::string old = AppearanceWorld().AllCol();
-    AppearanceWorld undisturbed;
-    undisturbed.platform.ResetFileOperations();
-    Run(undisturbed);
-    const std::string done = undisturbed.AllCol();
-    ASSERT_NE(done, old);
-
-    const int operations = undisturbed.platform.fileOperations;
-    for (int number = 0; number < 2 * operations; ++number) {
-        SCOPED_TRACE(number);
-        AppearanceWorld world;
-        world.platform.ResetFileOperations(number % operations, number >= operations);
-        Run(world);
-
-        EXPECT_TRUE(world.AllCol() == old || world.AllCol() == done) << world.AllCol();
-        EXPECT_EQ(world.module.SchemeColors, undisturbed.module.SchemeColors);
-        ExpectAllElseAsItWas(world);
-    }
+    EXPECT_EQ(dialog.Frame7.BackColor(), Grey(60));
+    EXPECT_EQ(dialog.NumCol[3].BackColor(), Rgb(128, 128, 0));
+    EXPECT_EQ(dialog.List2.SelectedText(), "Arial") << "found from \"arial\"";
+    EXPECT_EQ(module.SuitColor[0], Black) << "nothing was selected, so the picker's start wrote nowhere";
+    dialog.ContrastV.UserSets(140);
+    module.CardFont = "No Such Font";
+    const auto previewed = module.SchemeColors;
+    Press(dialog.command4);
+    dialog.Show();
+    EXPECT_EQ(dialog.ContrastV.Value(), 100);
+    EXPECT_EQ(module.SchemeColors, previewed) << "the slider goes home in silence";
+    EXPECT_EQ(dialog.Label1.Font().name, "No Such Font");
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    , FailingDisk,
-    testing::Values(Command{"Add", &Form6::addsch, "Error in adding Color Scheme:\r\nnew.col"},
-                    Command{"Replace", &Form6::repsch, "Error in updating Color Scheme:\r\nslate.col"},
-                    Command{"Delete", &Form6::delsch, "Error in updating Color Scheme:\r\nslate.col"}),
-    [](const auto& command) { return command.param.name; });
+TEST_F(OptionsDialog, APreviewPaintsTheDialogAlone)
+{
+    dialog.ColPik1.hsrRed.UserSets(90);
+    EXPECT_EQ(dialog.BackColor(), Grey(60)) << "a colour alone shows at View";
+    Press(dialog.showsch);
+    EXPECT_EQ(dialog.BackColor(), Rgb(90, 60, 60));
+    dialog.ContrastV.UserSets(200);
+    EXPECT_EQ(dialog.showsch.BackColor(), Rgb(26, 1, 1));
+    EXPECT_EQ(table.BackColor(), ButtonFace);
+    Press(dialog.command3); // only a stored scheme reaches the table
+    EXPECT_EQ(table.BackColor(), Grey(60));
+    EXPECT_EQ(tableButton.BackColor(), Grey(80));
+    EXPECT_EQ(messageBox.ButtonColour, Grey(80));
+}
+
+TEST_F(OptionsDialog, PickingASchemeKeepsItsColoursOnlyWithTheSliderAtHome)
+{
+    PickScheme("slate");
+    EXPECT_EQ(module.SchemeColors[3], Grey(90)) << "as the file has it";
+    dialog.ContrastV.UserSets(120);
+    PickScheme("grey");
+    EXPECT_EQ(dialog.ContrastV.Value(), 100);
+    EXPECT_EQ(module.Button(), Grey(28)) << "made anew from the background";
+    PickScheme("slate");
+    dialog.FeedClose(); // hidden with its selections
+    EXPECT_FALSE(dialog.IsShown());
+    dialog.Show();
+    dialog.FeedKey(DialogKey::Escape);
+    EXPECT_FALSE(dialog.IsShown());
+    Press(dialog.command3);
+    EXPECT_EQ(module.SchemeFile, "slate.col");
+    dialog.List1.Select(std::nullopt);
+    dialog.List1.UserReleasesOnNothing();
+    EXPECT_EQ(platform.plainMessages.back(), "Color Scheme: .col not found");
+    EXPECT_EQ(dialog.List1.ForeColor(), White) << "on black, the way back can be read";
+}
+
+TEST_F(OptionsDialog, CardColoursAndSoundAreTakenOverAtOnce)
+{
+    dialog.NumCol[2].UserPicks();
+    dialog.ColPik2.SetSchemeColor(Rgb(1, 2, 3));
+    EXPECT_EQ(module.SuitColor[2], Rgb(1, 2, 3));
+    dialog.NumCol[5].UserPicks();
+    EXPECT_TRUE(dialog.NumCol[2].Value()) << "the options of two frames are two groups";
+    EXPECT_EQ(module.SuitColor[2], White) << "the numbers' colour went into the picker, and on to both";
+    dialog.NumCol[4].UserPicks();
+    EXPECT_EQ(module.CardTextColor, Rgb(128, 0, 0));
+    EXPECT_EQ(module.SuitColor[2], White);
+    Press(dialog.command4);
+    dialog.Show();
+    EXPECT_EQ(module.SuitColor[4], Grey(220)) << "a selected option takes the panel's colour";
+    dialog.Check1.UserToggles();
+    EXPECT_EQ(module.SoundOn, No);
+    dialog.Check1.UserToggles();
+    EXPECT_EQ(module.SoundOn, Yes);
+    EXPECT_EQ(platform.sounds, std::vector<std::string>{"_soundonoff.wav"});
+}
+
+TEST_F(OptionsDialog, AFontIsASampleUntilApplyAndResetAsksFirst)
+{
+    dialog.List2.UserPicks(1);
+    EXPECT_EQ(dialog.Label1.Font(), (Font{.name = "Courier New", .size = 24}));
+    EXPECT_EQ(module.CardFont, "arial");
+    Press(dialog.command3);
+    EXPECT_EQ(module.CardFont, "Courier New");
+    PickScheme("slate");
+    platform.AnswerModal("No");
+    Press(dialog.cmdreset);
+    EXPECT_EQ(module.SuitColor[3], Rgb(128, 128, 0));
+    module.CardTextColor = Black;
+    platform.AnswerModal("Yes");
+    Press(dialog.cmdreset);
+    EXPECT_EQ(module.SuitColor[3], Rgb(0, 128, 128));
+    EXPECT_EQ(module.CardTextColor, White);
+    EXPECT_EQ(module.CardFont, "Arial");
+    EXPECT_EQ(module.SchemeFile, "slate.col");
+}
 
 } // namespace
 } // namespace tessarine

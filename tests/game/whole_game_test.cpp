@@ -73,12 +73,12 @@ TEST(WholeGameTest, EveryWayToTheWinEndsOnce)
         EXPECT_EQ(message, "Its all done!");
         ExpectWon(world);
     };
-    const int last = FirstPileBase + 4;
+    constexpr int last = FirstPileBase + 4;
     // By automove, by the right click and the drag of a last card, from a column and from the stock.
     play({Card('O', 9), Card('O', 8), Card('O', 7)}, {},
          [](GameWorld& w) { w.RightClick(Card('O', 7)); });
     play({Card('O', 9), Card('O', 8), Card('O', 7)}, {},
-         [last](GameWorld& w) { w.DragOnto(Card('O', 9), last); });
+         [](GameWorld& w) { w.DragOnto(Card('O', 9), last); });
     const auto toLastOfStock = [](GameWorld& w) {
         w.RightClick(Card('O', 7));
         w.RightClick(Card('O', 8));
@@ -184,7 +184,7 @@ TEST(StartTest, ComesUpAtTheStoredSizeAndNeverWithTheOldDeal)
     Form1 again(platform, "/app/", "tessarine");
     again.Start();
     EXPECT_EQ(again.shared.AppDir, "/app/");
-    EXPECT_EQ(again.shared.CardWidth, 608); // 607.5 to the even
+    EXPECT_EQ(again.shared.CardWidth, 608);    // 607.5 to the even
     EXPECT_EQ(again.table.StackLeft[7], 5104); // 3400 x 608 / 405
     EXPECT_NE(platform.files["/app/tempgame.txt"], deal);
     EXPECT_EQ(platform.unscriptedModals, 0);

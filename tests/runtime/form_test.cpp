@@ -4,6 +4,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <string>
+
 namespace tessarine
 {
 namespace
@@ -20,7 +23,6 @@ public:
 protected:
     void OnLoad() override { record += "load "; }
     void OnActivate() override { record += "activate "; }
-    void OnResize() override { record += "resize "; }
     void OnUnload() override { record += "unload "; }
 };
 
@@ -34,36 +36,23 @@ struct FormLife : testing::Test {
 TEST_F(FormLife, AFormIsLoadedOnceAndAfreshAfterAnUnload)
 {
     form.Show();
-    EXPECT_EQ(form.Take(), "load activate ");
-    form.Hide();
-    form.Hide();
-    EXPECT_TRUE(form.IsLoaded());
-    form.Show();
-    EXPECT_EQ(form.Take(), "activate ");
-    form.Unload();
-    form.Unload();
-    EXPECT_FALSE(form.IsShown());
-    EXPECT_EQ(form.Take(), "unload ");
-    form.Show();
-    EXPECT_EQ(form.Take(), "load activate ");
-}
-
-TEST_F(FormLife, AFormIsActivatedWhenTheUserComesBackToIt)
-{
-    form.Show();
     form.FeedActivation(); // it is active already
     EXPECT_EQ(form.Take(), "load activate ");
-    other.Show();
+    form.Hide();
     form.FeedActivation();
+    form.Show();
     EXPECT_EQ(form.Take(), "activate ");
-    EXPECT_EQ(forms.Active(), &form);
-    other.Hide();
-    other.FeedActivation();
-    EXPECT_EQ(other.Take(), "load activate ");
-    EXPECT_EQ(forms.Active(), &form);
+    form.SetCaption("before"); // must not silence the change after the unload
+    form.Unload();
+    form.Show();
+    EXPECT_EQ(form.Take(), "unload load activate ");
+    platform.paints = 0;
+    form.SetCaption("after");
+    platform.RunPendingEvents();
+    EXPECT_EQ(platform.paints, 1);
 }
 
-TEST_F(FormLife, TheOwnerOfAModalFormIsNotActivatedAnew)
+TEST_F(FormLife, TheOwnerOfAModalFormIsNotActivatedAnewAndMayGo)
 {
     form.Show();
     form.Take();
@@ -71,40 +60,18 @@ TEST_F(FormLife, TheOwnerOfAModalFormIsNotActivatedAnew)
         form.FeedActivation();
         form.FeedClose();
         EXPECT_TRUE(form.IsShown());
-        EXPECT_EQ(forms.Active(), &dialog);
         dialog.FeedClose();
     });
     other.ShowModal(&form);
     form.FeedActivation();
-    platform.RunPendingEvents();
     EXPECT_EQ(form.Take(), "");
-    EXPECT_EQ(forms.Active(), &form);
-    EXPECT_EQ(other.Take(), "load activate ");
-}
 
-TEST_F(FormLife, AFormThatGoesDuringAModalOneIsForgotten)
-{
-    auto passing = std::make_unique<RecordedForm>(forms);
-    passing->Show();
     platform.OnNextModal([&](Form& dialog) {
-        passing.reset();
+        form.Unload();
         dialog.Hide();
     });
-    form.ShowModal(passing.get());
+    other.ShowModal(&form);
     EXPECT_EQ(forms.Active(), nullptr);
-    EXPECT_TRUE(forms.Loaded() == std::vector<Form*>{&form});
-}
-
-TEST_F(FormLife, ChangesBeforeAnUnloadDoNotSilenceThoseAfterIt)
-{
-    form.Show();
-    form.SetCaption("before");
-    form.Unload();
-    form.Show();
-    platform.paints = 0;
-    form.SetCaption("after");
-    platform.RunPendingEvents();
-    EXPECT_EQ(platform.paints, 1);
 }
 
 TEST_F(FormLife, AControlThatOutlivesItsFormCanStandOnAnother)
@@ -114,38 +81,143 @@ TEST_F(FormLife, AControlThatOutlivesItsFormCanStandOnAnother)
         RecordedForm passing(forms);
         passing.Add(label);
     }
-    EXPECT_EQ(label.OwnerForm(), nullptr);
-    label.SetCaption("alone");
     form.Add(label);
     EXPECT_EQ(form.TakeChanges().back(), &label);
 }
 
-TEST_F(FormLife, TheSizeIsWhatTheWindowReallyHas)
+constexpr MouseEvent At(Twips x, Twips y, int button = LeftButton)
 {
-    form.Show();
-    form.Take();
-    form.SetOuterWidth(4000); // 258.67 pixels inside the frame
-    EXPECT_EQ(form.Width(), 3885);
-    EXPECT_EQ(form.OuterWidth(), 4005);
-    EXPECT_EQ(form.OuterHeight(), 1905);
-    EXPECT_EQ(form.Take(), "resize ");
-    form.FeedResize({3885, 1500});
-    platform.refusesSize.insert(&form);
-    form.SetOuterWidth(5000);
-    EXPECT_EQ(form.Take(), "");
-    EXPECT_EQ(form.Width(), 3885);
+    return {button, 0, x, y};
 }
 
-TEST_F(FormLife, OnlyAFormWithACloseBoxCloses)
+/// A table with two overlapping cards, and a box with a card on it.
+struct Mouse : FormLife {
+    Mouse()
+    {
+        lower.SetBounds(0, 0, 400, 400);
+        upper.SetBounds(200, 200, 400, 400);
+        box.SetBounds(1000, 100, 1000, 1000);
+        inner.SetBounds(150, 150, 100, 100);
+        form.Add(lower);
+        form.Add(upper);
+        form.Add(box);
+        box.Add(inner);
+        for (Label* card : {&lower, &upper, &inner}) {
+            card->OnMouseDown = Note('+');
+            card->OnMouseMove = Note('~');
+            card->OnMouseUp = Note('-');
+        }
+        form.Show();
+    }
+
+    MouseHandler Note(char what)
+    {
+        return [this, what](const MouseEvent& event) {
+            record += what + NumberText(RoundHalfEven(event.x)) + NumberText(RoundHalfEven(event.y));
+        };
+    }
+
+    Label lower;
+    Label upper;
+    PictureBox box;
+    Label inner;
+    std::string record;
+};
+
+TEST_F(Mouse, TheFrontMostControlThatShowsAndIsEnabledIsUnderThePointer)
 {
-    form.Show();
-    form.HasCloseBox = false;
-    form.FeedClose();
-    EXPECT_TRUE(form.IsShown());
-    form.HasCloseBox = true;
-    form.FeedClose();
-    EXPECT_FALSE(form.IsShown());
-    EXPECT_TRUE(form.IsLoaded());
+    EXPECT_EQ(form.FrontMostAt(300, 300), &upper);
+    EXPECT_EQ(form.FrontMostAt(399.9, 100), &lower);
+    EXPECT_EQ(form.FrontMostAt(400, 100), nullptr);
+    lower.BringToFront();
+    EXPECT_EQ(form.FrontMostAt(300, 300), &lower);
+    lower.SendToBack();
+    upper.SetEnabled(false);
+    EXPECT_EQ(form.FrontMostAt(300, 300), &lower);
+    lower.SetVisible(false);
+    EXPECT_EQ(form.FrontMostAt(300, 300), nullptr);
+
+    EXPECT_EQ(form.FrontMostAt(1160, 260), &inner);
+    box.SetEnabled(false); // and with it all that stands on it
+    EXPECT_EQ(form.FrontMostAt(1160, 260), nullptr);
+    box.SetEnabled(true);
+    box.Move(0, 0);
+    box.SendToBack(); // and still before labels and images
+    lower.SetVisible(true);
+    EXPECT_EQ(form.FrontMostAt(300, 300), &box);
+}
+
+TEST_F(Mouse, ThePressedControlKeepsTheMouseUntilEveryButtonIsUp)
+{
+    form.FeedMouseDown(At(1160, 260));
+    form.FeedMouseMove(At(300, 300, 0));
+    form.FeedMouseDown(At(100, 100, RightButton));
+    form.FeedMouseUp(At(-500, 9000));
+    form.FeedMouseUp(At(300, 300, RightButton));
+    form.FeedMouseUp(At(300, 300, RightButton)); // one release too many
+    form.FeedMouseMove(At(300, 300, 0));
+    EXPECT_EQ(record, "+ 10 10~-850 50+-1050-150--1650 8750--850 50");
+}
+
+TEST_F(Mouse, InputDuringAMoveIsGoneAndTheReleaseOfAPressToo)
+{
+    form.CancelControl = &upper;
+    {
+        const InputHold hold(form);
+        form.FeedMouseDown(At(300, 300));
+        form.FeedKey(DialogKey::Escape);
+    }
+    form.FeedMouseUp(At(300, 300));
+    form.TakesKeys = false;
+    form.FeedKey(DialogKey::Escape);
+    EXPECT_EQ(record, "");
+    form.FeedMouseDown(At(300, 300));
+    {
+        const InputHold hold(form); // a move that the press itself began
+        form.FeedMouseDown(At(300, 300, RightButton));
+        form.FeedMouseMove(At(300, 300, 0));
+    }
+    form.FeedMouseUp(At(300, 300, RightButton));
+    {
+        const InputHold hold(form);
+        form.FeedMouseUp(At(300, 300));
+    }
+    EXPECT_EQ(record, "+ 100 100");
+    EXPECT_EQ(form.Captured(), nullptr);
+}
+
+TEST_F(Mouse, AModalFormTakesTheMouseFromTheOthers)
+{
+    lower.OnMouseDown = [&](const MouseEvent&) { other.ShowModal(&form); };
+    platform.OnNextModal([&](Form& dialog) {
+        form.FeedMouseMove(At(300, 300, 0));
+        form.FeedMouseDown(At(300, 300, MiddleButton));
+        form.FeedMouseUp(At(300, 300, MiddleButton));
+        dialog.Hide();
+    });
+    form.FeedMouseDown(At(100, 100)); // the release never comes here
+    form.FeedMouseDown(At(300, 300, RightButton));
+    form.FeedMouseUp(At(300, 300, RightButton));
+    EXPECT_EQ(record, "+ 100 100- 100 100");
+    EXPECT_EQ(form.Captured(), nullptr);
+}
+
+TEST_F(Mouse, AControlThatGoesTakesItsCaptureAlong)
+{
+    PictureBox between; // made before what it stands on, and gone later
+    Label onIt;
+    auto passing = std::make_unique<PictureBox>();
+    for (Control* control : std::initializer_list<Control*>{&between, &onIt, passing.get()}) {
+        control->SetBounds(0, 0, 3000, 1500);
+    }
+    form.Add(*passing);
+    passing->Add(between);
+    between.Add(onIt);
+    form.FeedMouseDown(At(1160, 260));
+    ASSERT_EQ(form.Captured(), &onIt);
+    passing.reset();
+    EXPECT_EQ(form.Captured(), nullptr);
+    EXPECT_EQ(std::ranges::count(form.TakeChanges(), &onIt), 0);
 }
 
 } // namespace

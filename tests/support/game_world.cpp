@@ -23,9 +23,8 @@ std::string SchemeFileText()
 HeadlessPlatform& Prepared(HeadlessPlatform& platform)
 {
     platform.files["/app/all.col"] = SchemeFileText();
-    platform.files["/app/tessarine.cfg"] =
-        "stamp\r\n 1 16777215 1 \r\n 1 \r\n 0 \r\n 8388608 \r\n"
-        " 32768 \r\n 32896 \r\n 128 \r\ndefault.col\r\narial\r\n";
+    platform.files["/app/tessarine.cfg"] = "stamp\r\n 1 16777215 1 \r\n 1 \r\n 0 \r\n 8388608 \r\n"
+                                           " 32768 \r\n 32896 \r\n 128 \r\ndefault.col\r\narial\r\n";
     return platform;
 }
 

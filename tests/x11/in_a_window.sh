@@ -5,6 +5,7 @@
 # x11_plan program, and OUT gets what a failure leaves to look at.
 set -u
 
+here=$(dirname "$(readlink -f "$0")")
 test_case=$1
 folder=$2
 plan=$3
@@ -265,12 +266,18 @@ idle() {
 # The processor time that the program has used.
 ticks() { awk '{ print $14 + $15 }' "/proc/$pid/stat"; }
 
+# Without a display, or with one that isn't there, one sentence says so.
 no_display() {
-    local said
-    said=$(cd "$program" && env -u DISPLAY -u WAYLAND_DISPLAY timeout 10 ./tessarine 2>&1)
-    local code=$?
+    one_sentence env -u DISPLAY "$program/tessarine"
+    one_sentence env DISPLAY=:98765 "$program/tessarine"
+    one_sentence env -u DISPLAY "$here/../../play"
+}
+one_sentence() {
+    local said code
+    said=$(cd "$program" && timeout 10 "$@" 2>&1)
+    code=$?
     say "   $said"
-    if [ "$code" -eq 0 ] || [ "$code" -ge 124 ]; then fail "the program ended with code $code"; fi
+    if [ "$code" -eq 0 ] || [ "$code" -ge 124 ]; then fail "it ended with code $code"; fi
     [ "$(wc -l <<<"$said")" -eq 1 ] || fail "it should say one sentence"
 }
 

@@ -1,0 +1,139 @@
+#include "headless/headless_platform.h"
+#include "kit/box_button.h"
+#include "kit/file_chooser.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace tessarine
+{
+namespace
+{
+
+/// Its file dialog leaves the program in another folder, as systems do.
+class WanderingPlatform : public HeadlessPlatform
+{
+public:
+    std::string ChooseFile(const FileDialogRequest& request, Form* owner) override
+    {
+        ChangeFolder("/elsewhere");
+        return HeadlessPlatform::ChooseFile(request, owner);
+    }
+};
+
+struct OnAForm : testing::Test {
+    OnAForm()
+    {
+        button.SetBounds(30, 30, 360, 360);
+        gf1.FileTypes = "*.gam";
+        gf1.DefaultDir = "/games";
+        form.Add(button);
+        form.Add(gf1);
+        form.Show();
+    }
+
+    Colour At(Twips x, Twips y) const { return button.Drawing().ColourAt({x, y}, TwipsPerPixel); }
+
+    std::string Choose(const std::string& answer, std::string_view kind = "SAVE")
+    {
+        platform.chosenFiles.push_back(answer);
+        return gf1.GetFileName(kind);
+    }
+
+    WanderingPlatform platform;
+    Forms forms{platform};
+    Form form{forms, "Form", {3000, 3000}};
+    BoxControl button;
+    FNDialog gf1;
+};
+using BoxButton = OnAForm;
+using FileChooser = OnAForm;
+
+TEST_F(BoxButton, HasLightEdgesAboveAndLeftAndDarkOnesBelowAndRight)
+{
+    button.SetBackColor(Rgb(150, 170, 165));
+    EXPECT_EQ(At(0, 180), White);
+    EXPECT_EQ(At(180, 0), White);
+    EXPECT_EQ(At(340, 180), Black);
+    EXPECT_EQ(At(180, 340), Black);
+    EXPECT_EQ(At(355, 180), button.BackColor()) << "the dark edge stands in from the side";
+    button.SetWidth(600);
+    EXPECT_EQ(At(340, 180), button.BackColor()) << "the edge of the old width is gone";
+}
+
+TEST_F(BoxButton, CentresItsCaptionByTheHeightOfACapitalAndItsPictureAlmost)
+{
+    const Picture picture{16, {}};
+    button.SetPicture(picture);
+    button.SetCaption("Ok");
+    const auto& strokes = button.Drawing().Strokes();
+    const Whole width = RoundHalfEven(platform.TextSize(button.Font(), "Ok").width);
+    const Whole height = RoundHalfEven(platform.TextSize(button.Font(), "W").height);
+    EXPECT_EQ(std::get<Canvas::Text>(strokes.front()).upperLeft,
+              (Point{(360 - width) / 2.0, (360 - height) / 2.0}));
+    // 16 pixels are 423 hundredths of a millimetre, and count as 211.5 twips.
+    EXPECT_EQ(std::get<Canvas::Drawing>(strokes.back()).upperLeft, (Point{50.25, 50.25}));
+}
+
+TEST_F(BoxButton, IsPressedByAnyMouseButtonAndActsAtTheReleaseWhereverThatIs)
+{
+    std::vector<int> releasedWith;
+    button.OnMouseUp = [&](const MouseEvent& event) { releasedWith.push_back(event.button); };
+    platform.Press(form, 200, 200);
+    EXPECT_TRUE(button.HasBorder());
+    platform.Release(form, 2000, 2000);
+    EXPECT_FALSE(button.HasBorder());
+    platform.Click(button, RightButton);
+    button.SetEnabled(false);
+    button.UserActivates();
+    EXPECT_EQ(releasedWith, (std::vector<int>{LeftButton, RightButton}));
+}
+
+TEST_F(FileChooser, AsksTheSystemAndComesBackToItsFolder)
+{
+    bool ran = false;
+    platform.meanwhile.emplace_back([&] { ran = platform.CurrentFolder() == "/run"; });
+    EXPECT_EQ(gf1.GetFileName("open"), ""); // cancelled
+    EXPECT_TRUE(ran);
+    EXPECT_FALSE(platform.fileDialogs.back().save);
+    EXPECT_EQ(platform.fileDialogs.back().folder, "/games/");
+    EXPECT_EQ(Choose("/games/a.gam", "Save"), "/games/a.gam");
+    EXPECT_TRUE(platform.fileDialogs.back().save);
+}
+
+TEST_F(FileChooser, AddsTheExtensionOnlyToAPathWithoutAnyDot)
+{
+    EXPECT_EQ(Choose("  /games/mine "), "/games/mine.gam");
+    EXPECT_EQ(Choose("/my.games/mine"), "/my.games/mine") << "a dot of a folder counts";
+    EXPECT_EQ(Choose("   "), "");
+}
+
+TEST(FreeNames, CountOnFromTheNumberInTheNameAndWrap)
+{
+    const auto next = [](const std::string& name, const std::vector<std::string>& taken = {}) {
+        HeadlessPlatform platform;
+        for (const std::string& other : taken) {
+            platform.files["/run/" + other] = "x";
+        }
+        return NextFreeName(platform, name);
+    };
+    EXPECT_EQ(next("g.gam", {"g.gam"}), "g;01.gam");
+    EXPECT_EQ(next("g.gam", {"g;01.gam", "g;03.gam"}), "g;02.gam");
+    EXPECT_EQ(next("g;x.gam"), "g;01.gam");
+    EXPECT_EQ(next("g;500.gam"), "g;01.gam");
+    EXPECT_EQ(next("g;98.gam", {"g;99.gam", "g;01.gam"}), "g;02.gam");
+    EXPECT_EQ(next("/my.games/g"), "/my.games/g;01");
+    EXPECT_EQ(next("/my.games/g;01"), "/my.games/g;02");
+    std::vector<std::string> all;
+    for (int number = 1; number <= 99; ++number) {
+        all.push_back("g;" + TwoDigits(number) + ".gam");
+    }
+    EXPECT_EQ(next("g;50.gam", all), "");
+    all.erase(all.begin() + 49);
+    EXPECT_EQ(next("g;50.gam", all), "g;50.gam") << "the last one looked at";
+}
+
+} // namespace
+} // namespace tessarine
