@@ -170,6 +170,26 @@ TEST(StartTest, FirstRunTellsOnceAndWritesItsFiles)
     EXPECT_TRUE(form.IsShown());
 }
 
+TEST(StartTest, AFolderThatCanNotBeWrittenIsToldAndPlayedIn)
+{
+    HeadlessPlatform platform;
+    platform.readOnlyFolders = {"/app", "/run"};
+    std::vector<std::string> told;
+    for (int box = 0; box < 3; ++box) { // the configuration, the scheme, the deal
+        platform.OnNextModal([&](Form& form) {
+            told.push_back(static_cast<MsgForm&>(form).Label1.Caption());
+            platform.Click(static_cast<MsgForm&>(form).cmd[0]);
+        });
+    }
+    Form1 form(platform, "/app", "tessarine");
+    form.Start();
+    ASSERT_EQ(told.size(), 3U);
+    EXPECT_NE(told[2].find("/app/tempgame.txt"), std::string::npos);
+    EXPECT_TRUE(platform.files.empty());
+    EXPECT_EQ(form.table.Stacks[7].Count(), 7U);
+    EXPECT_EQ(form.Score1.AllSessions[1].Caption(), "0");
+}
+
 TEST(StartTest, ComesUpAtTheStoredSizeAndNeverWithTheOldDeal)
 {
     GameWorld first;
