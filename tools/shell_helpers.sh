@@ -30,10 +30,11 @@ missing_packages() {
     done
 }
 
-# Installs what is missing of the named packages, and says so. With nothing missing it costs nothing
-# and needs no network.
+# Installs what is missing of the named packages, and says so; `installed` then holds their names. With
+# nothing missing it costs nothing and needs no network.
 ensure_packages() {
     local missing as_root=() log
+    installed=
     mapfile -t missing < <(missing_packages "$@")
     [ ${#missing[@]} -eq 0 ] && return
     if ! command -v apt-get >/dev/null; then
@@ -59,6 +60,7 @@ ensure_packages() {
         grep -E '^(E|W):' "$log" >&2
         fail "The packages could not be installed. All that apt-get said is in $log."
     fi
+    installed=${missing[*]}
 }
 
 # Whether the first version is at least the second.

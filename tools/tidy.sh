@@ -25,7 +25,7 @@ inputs() {
 look() {
     local source=$1 stamp=$stamps/${1//\//__} sum
     [ -f "$source" ] || return 0
-    sum=$(cat .clang-tidy "$(dirname "$source")/.clang-tidy" "$@" 2>/dev/null | sha256sum)
+    sum=$(cat .clang-tidy ./*/.clang-tidy "$@" | sha256sum)
     [ "$sum" = "$(cat "$stamp" 2>/dev/null)" ] && return
     echo "   $source"
     if clang-tidy --quiet -p "$build" "$source" 2>"$stamp.err"; then

@@ -12,9 +12,11 @@
 #include <QResizeEvent>
 #include <QScopedValueRollback>
 #include <QScreen>
+#include <QTimer>
 #include <QWindow>
 
 #include <algorithm>
+#include <utility>
 
 namespace tessarine
 {
@@ -47,9 +49,6 @@ FormWindow::FormWindow(Form& form, Desk& desk)
     : Surface(form, desk, nullptr), widgets_(form, *this, desk)
 {
     setWindowFlags(FlagsOf(form));
-    if (form.Icon() != nullptr) {
-        setWindowIcon(IconOf(*form.Icon()));
-    }
     const QSize size = ToPixels({form.Width(), form.Height()});
     if (form.Sizable) {
         resize(size);
@@ -181,8 +180,18 @@ bool FormWindow::event(QEvent* event)
         Refresh(); // what has changed until now goes into the same paint
     } else if (type == QEvent::WindowActivate && TheForm() != nullptr) {
         TheForm()->FeedActivation();
+    } else if (type == QEvent::Paint && !std::exchange(wasPainted_, true)) {
+        QTimer::singleShot(0, this, &FormWindow::ShowIcon);
     }
     return Surface::event(event);
+}
+
+/// The window system takes its time over an icon; the first picture does not wait for it.
+void FormWindow::ShowIcon()
+{
+    if (TheForm() != nullptr && TheForm()->Icon() != nullptr) {
+        setWindowIcon(IconOf(*TheForm()->Icon()));
+    }
 }
 
 void FormWindow::closeEvent(QCloseEvent* event)

@@ -44,6 +44,7 @@ private:
     Form* TheForm() const { return static_cast<Form*>(TheControl()); }
     bool HoldsItsSize() const;
     void CentreOn(const QRect& area);
+    void ShowIcon();
     void RefreshOwnLook();
     void RefreshEverything();
 
@@ -53,6 +54,7 @@ private:
     SizeTalk sizes_;
     bool fitting_ = false;
     bool placed_ = false;
+    bool wasPainted_ = false;
 };
 
 } // namespace tessarine

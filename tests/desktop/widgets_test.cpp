@@ -142,6 +142,12 @@ TEST_F(WidgetsTest, AScrollBarMayHaveItsLargerEndAtTheTop)
     Events();
     EXPECT_EQ(bar.value(), 215);
     EXPECT_EQ(changes, 3);
+    {
+        const InputHold hold(form);
+        hand.Click(red, part(QStyle::SC_ScrollBarAddLine));
+    }
+    EXPECT_EQ(bar.value(), 215) << "put back";
+    EXPECT_EQ(red.Value(), 40);
 }
 
 TEST_F(WidgetsTest, OptionsAndCheckBoxesTurnOnlyAsTheirControlsDo)

@@ -126,6 +126,11 @@ TEST_F(WindowTest, AUsersSizeReachesTheFormInTwips)
     EXPECT_EQ(form.Width(), 6000);
     EXPECT_EQ(form.Height(), 3750);
     EXPECT_EQ(form.resizes, 1);
+
+    for (const Twips width : {4500, 6000, 4500, 5250}) { // to and fro is no refusal
+        form.SetClientArea({width, 3750});
+        EXPECT_EQ(form.Width(), width);
+    }
 }
 
 TEST(SizeTalk, AWindowThatGetsItsOldSizeBackHoldsIt)
