@@ -49,6 +49,7 @@ Form6::Form6(Forms& forms, Module1& module, SchemeStore& store, MsgForm& message
     HearSchemeGroup();
     HearOthers();
     CancelControl = &command4;
+    FirstControl = &List1;
 }
 
 void Form6::PlaceControls()

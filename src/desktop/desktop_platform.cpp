@@ -24,6 +24,14 @@ namespace
 /// How long the program's last sound may go on after its windows are gone.
 constexpr std::chrono::milliseconds LastSound{1500};
 
+/// The window that a box of the system belongs to. Just after another box has closed none may be
+/// active yet.
+QWidget* OwnerOfBox()
+{
+    QWidget* const modal = QApplication::activeModalWidget();
+    return modal == nullptr ? QApplication::activeWindow() : modal;
+}
+
 } // namespace
 
 DesktopPlatform::DesktopPlatform() : random_(std::random_device()())
@@ -251,12 +259,12 @@ Size DesktopPlatform::TextSize(const Font& font, std::string_view text)
 
 bool DesktopPlatform::PlainMessage(const std::string& text, PlainButtons buttons)
 {
-    return dialogs::Message(QApplication::activeWindow(), text, buttons);
+    return dialogs::Message(OwnerOfBox(), text, buttons);
 }
 
 std::string DesktopPlatform::AskForText(const std::string& prompt)
 {
-    return dialogs::Text(QApplication::activeWindow(), prompt);
+    return dialogs::Text(OwnerOfBox(), prompt);
 }
 
 std::string DesktopPlatform::ChooseFile(const FileDialogRequest& request, Form* owner)

@@ -15,6 +15,8 @@ namespace
 {
 
 constexpr auto ProgramTitle = "Tessarine";
+/// Wide enough for a file's date.
+constexpr QSize FileDialogSize(740, 460);
 
 QString FilterOf(const FileDialogRequest& request)
 {
@@ -53,6 +55,7 @@ std::string File(QWidget* parent, const FileDialogRequest& request)
     box.setAcceptMode(request.save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     box.setFileMode(request.save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
     box.setOption(QFileDialog::DontConfirmOverwrite);
+    box.resize(FileDialogSize);
     if (!request.name.empty()) {
         box.selectFile(ToText(request.name));
     }

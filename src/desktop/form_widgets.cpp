@@ -241,7 +241,8 @@ void FormWidgets::FocusFirst()
     if (!form_.TakesKeys) {
         return;
     }
-    QWidget* first = nullptr;
+    const Peer* const named = form_.FirstControl == nullptr ? nullptr : PeerOf(*form_.FirstControl);
+    QWidget* first = named == nullptr ? nullptr : &named->Widget();
     ForEachWindowed(form_, [&](const Control& control) {
         const Peer* const peer = control.TakesFocus() && control.Enabled() ? PeerOf(control) : nullptr;
         if (first == nullptr && peer != nullptr && peer->Widget().isVisibleTo(&window_.Widget())) {
@@ -249,7 +250,7 @@ void FormWidgets::FocusFirst()
         }
     });
     if (first != nullptr) {
-        first->setFocus(Qt::OtherFocusReason);
+        first->setFocus(Qt::TabFocusReason); // what Enter would press is to be seen
     }
 }
 

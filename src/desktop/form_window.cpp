@@ -5,6 +5,7 @@
 #include "desktop/pixels.h"
 #include "desktop/text.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QIcon>
@@ -70,7 +71,8 @@ void FormWindow::Open()
     }
     RefreshEverything();
     if (!placed_) {
-        CentreOn(screen()->availableGeometry());
+        const QWidget* const front = QApplication::activeWindow();
+        PlaceBeside(front != nullptr && front->isVisible() ? front : nullptr);
     }
     widgets_.FocusFirst();
     show();
@@ -117,6 +119,22 @@ void FormWindow::LetGoOfForm()
         widgets_.LetGo();
         LetGo();
     }
+}
+
+/// Beside another window where there is room, so that both can be seen; else in the middle.
+void FormWindow::PlaceBeside(const QWidget* other)
+{
+    const QRect available = screen()->availableGeometry();
+    const QRect taken = other == nullptr ? QRect() : other->frameGeometry();
+    const int frame = other == nullptr ? 0 : taken.width() - other->width();
+    const int needed = width() + frame;
+    const bool fitsRight = taken.right() + needed < available.right();
+    if (other == nullptr || (!fitsRight && taken.left() - needed < available.left())) {
+        CentreOn(available);
+        return;
+    }
+    move(fitsRight ? taken.right() + 1 : taken.left() - needed, taken.top());
+    placed_ = true;
 }
 
 void FormWindow::CentreOn(const QRect& area)

@@ -44,6 +44,7 @@ private:
     Form* TheForm() const { return static_cast<Form*>(TheControl()); }
     bool HoldsItsSize() const;
     void CentreOn(const QRect& area);
+    void PlaceBeside(const QWidget* other);
     void ShowIcon();
     void RefreshOwnLook();
     void RefreshEverything();

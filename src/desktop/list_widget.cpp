@@ -33,7 +33,8 @@ public:
     QVariant data(const QModelIndex& index, int role) const override
     {
         const auto row = static_cast<std::size_t>(index.row());
-        const bool isText = role == Qt::DisplayRole || role == Qt::EditRole;
+        const bool isText = role == Qt::DisplayRole || role == Qt::EditRole ||
+                            role == Qt::ToolTipRole; // a long name is cut off
         // The list may have become shorter since it was counted.
         return isText && entries_ != nullptr && row < entries_->Count() ? ToText(entries_->At(row))
                                                                         : QVariant();

@@ -76,7 +76,7 @@ void Surface::paintEvent(QPaintEvent* event)
     if (user->HasBorder()) {
         painter.PaintBorder(EdgeOf(ToQColor(user->BackColor())));
     }
-    if (focusByKeyboard_) {
+    if (focusByKeyboard_ && hasFocus()) {
         painter.PaintFocus(ReadableOn(ToQColor(user->BackColor()), ToQColor(user->ForeColor())));
     }
 }
@@ -168,6 +168,12 @@ void Surface::focusInEvent(QFocusEvent* event)
         focusByKeyboard_ = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason;
     }
     update();
+}
+
+/// A form that comes up again shows where the keyboard is, whatever happened to it before.
+void Surface::hideEvent(QHideEvent*)
+{
+    focusByKeyboard_ = true;
 }
 
 void Surface::focusOutEvent(QFocusEvent* event)

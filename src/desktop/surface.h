@@ -29,6 +29,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
 
 private:
     const UserControl* AsUserControl() const;
@@ -37,7 +38,7 @@ private:
     void DropStaleCapture(Form& form, const QMouseEvent& event);
 
     QColor ground_;
-    bool focusByKeyboard_ = false;
+    bool focusByKeyboard_ = true; ///< shown as long as it has the keyboard
 };
 
 } // namespace tessarine

@@ -3,6 +3,7 @@
 #include "desktop/widgets.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QMouseEvent>
 #include <QPlainTextEdit>
 #include <QTextBrowser>
@@ -106,6 +107,11 @@ protected:
         loads_ = Page().Loads();
         address_ = address;
         const QUrl url = AsUrl(address);
+        if (!QFileInfo(url.toLocalFile()).isReadable()) {
+            setHtml(QStringLiteral("<p>The page could not be found:</p><p>") +
+                    url.toLocalFile().toHtmlEscaped() + QStringLiteral("</p>"));
+            return;
+        }
         setSource(url);
         if (loadsAnew) {
             reload();

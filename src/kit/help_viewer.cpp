@@ -45,6 +45,7 @@ Form4::Form4(Forms& forms, const Dress& dress) : Form(forms, "Tessarine Help", C
     };
     command3.OnMouseUp = [this](const MouseEvent&) { Hide(); };
     CancelControl = &command3;
+    FirstControl = &WebBrowser1; // the page can be scrolled at once
 }
 
 void Form4::OnActivate()

@@ -87,6 +87,8 @@ public:
     bool TakesKeys = true;
     /// The control that Escape presses; none where leaving without an answer would harm.
     Control* CancelControl = nullptr;
+    /// The control that has the keyboard when the form comes up; without one the first that takes it.
+    Control* FirstControl = nullptr;
 
     Forms& AllForms() const { return forms_; }
     Platform& platform() const { return forms_.platform(); }

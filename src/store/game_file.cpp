@@ -19,11 +19,11 @@ bool IsCard(const std::string& line)
 std::string FaultOfGame(const std::vector<std::string>& lines)
 {
     if (lines.size() < CardCount) {
-        return "it has fewer than 50 lines";
+        return "It has fewer than 50 lines";
     }
     std::array<bool, CardCount> seen{};
     for (std::size_t n = 0; n < CardCount; ++n) {
-        const std::string where = "line " + std::to_string(n + 1);
+        const std::string where = "Line " + std::to_string(n + 1);
         if (!IsCard(lines[n])) {
             return where + " is no card from 00 to 49";
         }

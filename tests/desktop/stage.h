@@ -15,6 +15,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <initializer_list>
 #include <string>
 #include <utility>
 
@@ -28,28 +29,13 @@ class Hand
 public:
     explicit Hand(DesktopPlatform& platform) : platform_(platform) {}
 
-    void Press(const Control& control, QPoint at, Qt::MouseButton button = Qt::LeftButton)
+    void Press(const Control& control, QPoint at) { Send(QTest::MousePress, control, at); }
+    void Move(const Control& control, QPoint at) { Send(QTest::MouseMove, control, at); }
+    void Release(const Control& control, QPoint at) { Send(QTest::MouseRelease, control, at); }
+    void Click(const Control& control, QPoint at) { Send(QTest::MouseClick, control, at); }
+    void Click(const Control& control)
     {
-        QTest::mousePress(&WindowOf(control), button, {}, PlaceOf(control, at));
-    }
-    void Move(const Control& control, QPoint at)
-    {
-        QTest::mouseMove(&WindowOf(control), PlaceOf(control, at));
-    }
-    void Release(const Control& control, QPoint at, Qt::MouseButton button = Qt::LeftButton)
-    {
-        QTest::mouseRelease(&WindowOf(control), button, {}, PlaceOf(control, at));
-    }
-    void Click(const Control& control, QPoint at, Qt::MouseButton button = Qt::LeftButton)
-    {
-        Press(control, at, button);
-        if (platform_.WindowOf(*control.OwnerForm()) != nullptr) { // the press may have ended it
-            Release(control, at, button);
-        }
-    }
-    void Click(const Control& control, Qt::MouseButton button = Qt::LeftButton)
-    {
-        Click(control, ToPixelPoint({control.Width() / 2, control.Height() / 2}), button);
+        Click(control, ToPixelPoint({control.Width() / 2, control.Height() / 2}));
     }
     void Type(const Control& control, Qt::Key key) { QTest::keyClick(&WindowOf(control), key); }
 
@@ -58,9 +44,11 @@ private:
     {
         return {NearestPixel(point.x * PixelsPerTwip), NearestPixel(point.y * PixelsPerTwip)};
     }
-    static QPoint PlaceOf(const Control& control, QPoint at)
+    void Send(QTest::MouseAction action, const Control& control, QPoint at)
     {
-        return ToPixelPoint(control.PlaceOnForm()) + at;
+        const Qt::MouseButton button = action == QTest::MouseMove ? Qt::NoButton : Qt::LeftButton;
+        QTest::mouseEvent(action, &WindowOf(control), button, {},
+                          ToPixelPoint(control.PlaceOnForm()) + at);
     }
     QWindow& WindowOf(const Control& control)
     {
@@ -116,14 +104,36 @@ inline void WhenModal(std::function<void()> user)
     });
 }
 
+/// Something that takes the keyboard and draws little.
+class BoxButton : public UserControl
+{
+public:
+    bool TakesFocus() const override { return true; }
+
+protected:
+    void Draw(Canvas& canvas) const override { canvas.FillBox({0, 0}, {30, 30}, White); }
+};
+
+/// A form for the test to furnish and show, and a surface that it may put there.
 class DesktopTest : public testing::Test
 {
 protected:
+    DesktopTest() { surface.SetBounds(30, 450, 3900, 3000); }
     void Events() { QTest::qWait(1); }
+    void Show(std::initializer_list<Control*> controls)
+    {
+        for (Control* control : controls) {
+            form.Add(*control);
+        }
+        form.Show();
+        Events();
+    }
 
     DesktopPlatform platform;
     Forms forms{platform};
     Hand hand{platform};
+    Form form{forms, "test", {6000, 4500}};
+    PictureBox surface;
 };
 
 } // namespace tessarine

@@ -7,31 +7,27 @@ namespace tessarine
 namespace
 {
 
-class BoxButton : public UserControl
+class WindowTest : public DesktopTest
 {
-public:
-    bool TakesFocus() const override { return true; }
-
 protected:
-    void Draw(Canvas& canvas) const override { canvas.FillBox({0, 0}, {30, 30}, White); }
-};
-
-class Dialog : public Form
-{
-public:
-    explicit Dialog(Forms& forms) : Form(forms, "dialog", {3000, 2000})
+    WindowTest()
     {
-        Twips left = 0;
+        first.SetBounds(0, 0, 900, 350);
+        second.SetBounds(1500, 0, 900, 350);
+        form.CancelControl = &second;
         for (BoxButton* button : {&first, &second}) {
-            button->SetBounds(left += 300, 300, 900, 350);
             button->OnMouseUp = [this, button](const MouseEvent&) {
                 pressed = button;
-                Hide();
+                form.Hide();
             };
-            Add(*button);
-            left += 900;
+            form.Add(*button);
         }
-        CancelControl = &second;
+    }
+    void Type(const std::vector<Qt::Key>& keys)
+    {
+        for (const Qt::Key key : keys) {
+            hand.Type(form, key);
+        }
     }
 
     BoxButton first;
@@ -39,131 +35,70 @@ public:
     const BoxButton* pressed = nullptr;
 };
 
-using WindowTest = DesktopTest;
-
 TEST_F(WindowTest, TheKeyboardWorksADialog)
 {
-    Dialog dialog(forms);
-    const auto answer = [&](std::initializer_list<Qt::Key> keys) {
-        dialog.pressed = nullptr;
-        WhenModal([&dialog, keys = std::vector<Qt::Key>(keys), this] {
-            for (const Qt::Key key : keys) {
-                hand.Type(dialog, key);
-            }
-        });
-        dialog.ShowModal(nullptr);
-        return dialog.pressed;
+    const auto answer = [this](const std::vector<Qt::Key>& keys) {
+        WhenModal([this, keys] { Type(keys); });
+        form.ShowModal(nullptr);
+        return std::exchange(pressed, nullptr);
     };
-    EXPECT_EQ(answer({Qt::Key_Return}), &dialog.first) << "the first control has the keyboard";
-    EXPECT_EQ(answer({Qt::Key_Tab, Qt::Key_Space}), &dialog.second);
-    EXPECT_EQ(answer({Qt::Key_Escape}), &dialog.second);
+    EXPECT_EQ(answer({Qt::Key_Return}), &first) << "the first control has the keyboard";
+    EXPECT_EQ(answer({Qt::Key_Tab, Qt::Key_Space}), &second);
+    EXPECT_EQ(answer({Qt::Key_Escape}), &second);
 }
 
-TEST_F(WindowTest, AFormWithoutKeysTakesNone)
+TEST_F(WindowTest, AFormMayTakeNoKeysAndTheCloseBoxAsksIt)
 {
-    Dialog dialog(forms);
-    dialog.TakesKeys = false;
-    dialog.Show();
-    Events();
-    for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Space, Qt::Key_Return, Qt::Key_Escape}) {
-        hand.Type(dialog, key);
-    }
-    EXPECT_EQ(dialog.pressed, nullptr);
+    form.TakesKeys = false;
+    form.HasCloseBox = false;
+    Show({});
+    Type({Qt::Key_Tab, Qt::Key_Space, Qt::Key_Return, Qt::Key_Escape});
+    EXPECT_EQ(pressed, nullptr);
+    platform.WindowOf(form)->close();
+    EXPECT_TRUE(form.IsShown());
+    form.HasCloseBox = true;
+    platform.WindowOf(form)->close();
+    EXPECT_FALSE(form.IsShown() || platform.WindowOf(form)->isVisible());
 }
 
-TEST_F(WindowTest, TheCloseBoxAsksTheForm)
+TEST_F(WindowTest, ALostReleaseDoesNotHoldTheMouseForEver)
 {
-    Dialog dialog(forms);
-    dialog.HasCloseBox = false;
-    dialog.Show();
-    platform.WindowOf(dialog)->close();
-    EXPECT_TRUE(dialog.IsShown());
-    Dialog closes(forms);
-    closes.Show();
-    platform.WindowOf(closes)->close();
-    EXPECT_FALSE(closes.IsShown());
-    EXPECT_FALSE(platform.WindowOf(closes)->isVisible());
+    Label card;
+    Label other;
+    std::string heard;
+    card.SetBounds(300, 300, 405, 375);
+    other.SetBounds(1500, 300, 405, 375);
+    card.OnMouseUp = [&](const MouseEvent&) { heard += "up "; };
+    other.OnMouseDown = [&](const MouseEvent&) { heard += "other"; };
+    surface.Add(card);
+    surface.Add(other);
+    Show({&surface});
+    form.FeedMouseDown({LeftButton, 0, 400, 800}); // and its release never comes
+    ASSERT_EQ(form.Captured(), &card);
+    hand.Click(other);
+    EXPECT_EQ(heard, "up other");
 }
 
-TEST_F(WindowTest, WidgetsAreMadeWhenTheyAreFirstSeenAndStackedLikeTheirControls)
+TEST_F(WindowTest, OnlyAWindowThatGetsItsOldSizeBackHoldsIt)
 {
-    Dialog dialog(forms);
-    dialog.first.SetVisible(false);
-    dialog.first.SetLeft(900); // over the other one
-    dialog.Show();
-    Events();
-    const auto widgets = [&] { return platform.WindowOf(dialog)->findChildren<QWidget*>().size(); };
-    EXPECT_EQ(widgets(), 1);
-    dialog.first.SetVisible(true);
-    Events();
-    EXPECT_EQ(widgets(), 2);
-    const QPoint both(110, 30);
-    const auto atTop = [&] { return platform.WindowOf(dialog)->childAt(both); };
-    EXPECT_EQ(atTop(), &WidgetOf(platform, dialog.second));
-    dialog.first.BringToFront();
-    Events();
-    EXPECT_EQ(atTop(), &WidgetOf(platform, dialog.first));
-}
-
-TEST_F(WindowTest, AUsersSizeReachesTheFormInTwips)
-{
-    class Sized : public Form
-    {
-    public:
-        using Form::Form;
-        int resizes = 0;
-
-    protected:
-        void OnResize() override { ++resizes; }
-    };
-    Sized form(forms, "sized", {4000, 3000});
     form.Sizable = true;
     form.Show();
-    Events();
-    EXPECT_EQ(form.resizes, 0) << "a size between two pixels is no resize by itself";
-    platform.WindowOf(form)->resize(400, 250); // as the window system would
-    Events();
-    EXPECT_EQ(form.Width(), 6000);
-    EXPECT_EQ(form.Height(), 3750);
-    EXPECT_EQ(form.resizes, 1);
-
     for (const Twips width : {4500, 6000, 4500, 5250}) { // to and fro is no refusal
         form.SetClientArea({width, 3750});
         EXPECT_EQ(form.Width(), width);
     }
-}
-
-TEST(SizeTalk, AWindowThatGetsItsOldSizeBackHoldsIt)
-{
     const QSize tile(800, 600);
     const QSize wanted(780, 600);
     SizeTalk sizes;
-    EXPECT_FALSE(sizes.IsHeld(tile));
     sizes.Asked(tile, wanted);
     sizes.Got(wanted);
-    EXPECT_FALSE(sizes.IsHeld(wanted)) << "accepted";
+    EXPECT_FALSE(sizes.IsHeld(tile) || sizes.IsHeld(wanted)) << "accepted";
     sizes.Got(tile);
     EXPECT_TRUE(sizes.IsHeld(tile)) << "taken back";
     sizes.Got(wanted);
     EXPECT_TRUE(sizes.IsHeld(tile)) << "an echo of what was asked changes nothing";
     sizes.Got({1000, 600});
-    EXPECT_FALSE(sizes.IsHeld({1000, 600})) << "another size, by a person: ask again";
-}
-
-TEST_F(WindowTest, TheProgramEndsFromInsideAModalForm)
-{
-    GTEST_FLAG_SET(death_test_style, "threadsafe");
-    const auto endInside = [this] {
-        Dialog outer(forms);
-        Dialog inner(forms);
-        WhenModal([&] {
-            WhenModal([&] { platform.EndProgram(); });
-            inner.ShowModal(&outer);
-        });
-        outer.ShowModal(nullptr);
-        std::_Exit(3); // never comes here
-    };
-    EXPECT_EXIT(endInside(), testing::ExitedWithCode(0), "");
+    EXPECT_FALSE(sizes.IsHeld(tile)) << "another size, by a person: ask again";
 }
 
 } // namespace
