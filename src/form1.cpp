@@ -36,6 +36,8 @@ void Form1::PlaceControls()
     PlaceCommandRow();
     Add(table.Picture2);
     table.Picture2.Move(places::SurfaceLeft, places::SurfaceTop);
+    table.Picture2.Describe = [] { return std::string("Table"); };
+    Score1.Describe = [] { return std::string("Scores"); };
     NextCard[0].SetCaption("<");
     NextCard[0].Describe = [] { return std::string("Turn the stock back"); };
     NextCard[1].SetCaption(">");

@@ -44,6 +44,7 @@ Form4::Form4(Forms& forms, const Dress& dress) : Form(forms, "Tessarine Help", C
         }
     };
     command3.OnMouseUp = [this](const MouseEvent&) { Hide(); };
+    WebBrowser1.Describe = [] { return std::string("Help page"); };
     CancelControl = &command3;
     FirstControl = &WebBrowser1; // the page can be scrolled at once
 }

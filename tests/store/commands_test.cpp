@@ -217,6 +217,11 @@ TEST(DiskTest, WhateverFailsNothingIsLostAndTheProgramGoesOn)
             w.Press(w.form.cmdLoadGame);
         },
         [](GameWorld& w) { w.Press(w.form.cmdexit); },
+        [](GameWorld& w) {
+            w.platform.plainAnswers = {true};
+            w.Press(w.form.cmdscore);
+            w.Press(w.form.Score1.Command2);
+        },
         [](GameWorld& w) { w.form.configuration.ReadcfgFile(); },
         [](GameWorld& w) { w.form.gameCommands.GameWon(); },
     };
