@@ -15,6 +15,7 @@
 #include <algorithm>
 #include <bit>
 #include <cstdlib>
+#include <utility>
 
 namespace tessarine
 {
@@ -22,7 +23,7 @@ namespace
 {
 
 /// How long the program's last sound may go on after its windows are gone.
-constexpr std::chrono::milliseconds LastSound{1500};
+constexpr std::chrono::milliseconds LastSound{2500};
 
 /// The window that a box of the system belongs to. Just after another box has closed none may be
 /// active yet.
@@ -34,7 +35,8 @@ QWidget* OwnerOfBox()
 
 } // namespace
 
-DesktopPlatform::DesktopPlatform() : random_(std::random_device()())
+DesktopPlatform::DesktopPlatform(WavePlayerMaker openPlayer)
+    : sounds_(std::move(openPlayer)), random_(std::random_device()())
 {
     InstallAccessibility();
 }

@@ -20,7 +20,7 @@ namespace tessarine
 class DesktopPlatform final : public QObject, public Platform
 {
 public:
-    DesktopPlatform();
+    explicit DesktopPlatform(WavePlayerMaker openPlayer = &OpenWavePlayer);
     ~DesktopPlatform() override;
 
     /// The window of a form; none before its first Show.

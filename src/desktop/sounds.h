@@ -1,6 +1,8 @@
 // Wave files, played beside the game.
 #pragma once
 
+#include "desktop/wave_player.h"
+
 #include <chrono>
 #include <memory>
 #include <string>
@@ -8,13 +10,13 @@
 namespace tessarine
 {
 
-/// Plays wave files, several at once if need be. The sound device is opened at the first of them, by a
-/// thread that sleeps otherwise: opening may take long, and nobody waits for it. Whatever fails is
-/// silence.
+/// Hands wave files to the sound device, which is opened with the first of them, and anew when it has
+/// gone since, by a thread that sleeps otherwise: opening may take long, and nobody waits for it.
+/// Whatever fails is silence.
 class Sounds
 {
 public:
-    Sounds();
+    explicit Sounds(WavePlayerMaker openPlayer);
     ~Sounds();
 
     /// Returns at once.
@@ -23,8 +25,9 @@ public:
     void Finish(std::chrono::milliseconds longest);
 
 private:
-    class Player;
-    std::unique_ptr<Player> player_; ///< none before the first sound
+    class Queue;
+    WavePlayerMaker openPlayer_;
+    std::unique_ptr<Queue> queue_; ///< none before the first sound
 };
 
 } // namespace tessarine

@@ -22,11 +22,6 @@ bool StandsOn(const Control* control, const Control* surface)
     return control != nullptr;
 }
 
-std::string_view BareName(std::string_view path)
-{
-    return path.substr(path.rfind('/') + 1);
-}
-
 /// The first control of a form that a user would take for a button.
 Control* FirstButton(const Container& on)
 {
@@ -374,7 +369,7 @@ std::string HeadlessPlatform::ChooseFile(const FileDialogRequest& request, Form*
 
 void HeadlessPlatform::PlayWave(const std::string& path)
 {
-    sounds.emplace_back(BareName(path));
+    sounds.push_back(path);
 }
 
 } // namespace tessarine

@@ -40,7 +40,7 @@ public:
 
     // --- what happened ---
 
-    std::vector<std::string> sounds;        ///< bare file names, oldest first
+    std::vector<std::string> sounds;        ///< paths as they came, oldest first
     std::vector<std::string> plainMessages; ///< texts of the system's own message box
     std::vector<FileDialogRequest> fileDialogs;
     std::vector<std::string> modalCaptions; ///< captions of the modal forms that were run

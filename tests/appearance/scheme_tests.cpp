@@ -292,7 +292,7 @@ TEST_F(OptionsDialog, CardColoursAndSoundAreTakenOverAtOnce)
     EXPECT_EQ(module.SoundOn, No);
     dialog.Check1.UserToggles();
     EXPECT_EQ(module.SoundOn, Yes);
-    EXPECT_EQ(platform.sounds, std::vector<std::string>{"_soundonoff.wav"});
+    EXPECT_EQ(platform.sounds, std::vector<std::string>{"/program/_soundonoff.wav"});
 }
 
 TEST_F(OptionsDialog, AFontIsASampleUntilApplyAndResetAsksFirst)

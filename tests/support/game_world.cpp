@@ -124,6 +124,10 @@ void GameWorld::RightClick(int item)
 
 std::vector<std::string> GameWorld::TakeSounds()
 {
+    constexpr std::string_view folder = "/app/";
+    for (std::string& sound : platform.sounds) {
+        sound.erase(0, sound.starts_with(folder) ? folder.size() : 0);
+    }
     return std::exchange(platform.sounds, {});
 }
 

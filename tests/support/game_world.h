@@ -43,6 +43,7 @@ public:
     void RightClick(int item);
     void Press(Control& button) { platform.Click(button); }
     void ForgetSounds() { platform.sounds.clear(); }
+    /// By their bare names, if they lie beside the program.
     std::vector<std::string> TakeSounds();
 
     /// What is wrong with the state of the table between two events; empty if nothing is.
