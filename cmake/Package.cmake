@@ -8,13 +8,21 @@ if(CMAKE_INSTALL_PREFIX_INITIALIZED_TO_DEFAULT)
 endif()
 
 get_directory_property(dataFiles DIRECTORY ${CMAKE_SOURCE_DIR}/data DEFINITION originals)
+get_directory_property(menuFiles DIRECTORY ${CMAKE_SOURCE_DIR}/data DEFINITION menuFiles)
 install(TARGETS tessarine RUNTIME DESTINATION .)
 install(FILES ${dataFiles} DESTINATION .)
-install(PROGRAMS ${CMAKE_SOURCE_DIR}/data/tessarine.desktop DESTINATION .)
-install(FILES ${CMAKE_SOURCE_DIR}/data/tessarine.png DESTINATION . OPTIONAL)
+install(PROGRAMS ${menuFiles} DESTINATION .)
 
-set(CPACK_GENERATOR TGZ)
-set(CPACK_PACKAGE_FILE_NAME ${playersFolder})
-set(CPACK_STRIP_FILES ON)
-set(CPACK_VERBATIM_VARIABLES ON)
-include(CPack)
+# A target of our own, since the toolset's would first build everything there is, tests and all. In a
+# build folder that still holds the toolset's, its settings would keep the name from us.
+file(REMOVE ${CMAKE_BINARY_DIR}/CPackConfig.cmake)
+set(packing ${CMAKE_BINARY_DIR}/packing)
+add_custom_target(package
+  COMMAND ${CMAKE_COMMAND} -E rm -rf ${packing}
+  COMMAND ${CMAKE_COMMAND} --install ${CMAKE_BINARY_DIR} --prefix ${packing}/${playersFolder} --strip
+  COMMAND ${CMAKE_COMMAND} -E chdir ${packing}
+          ${CMAKE_COMMAND} -E tar cz ${CMAKE_BINARY_DIR}/${playersFolder}.tar.gz ${playersFolder}
+  COMMAND ${CMAKE_COMMAND} -E rm -rf ${packing}
+  COMMENT "Packing ${playersFolder}.tar.gz"
+  VERBATIM)
+add_dependencies(package tessarine tessarine_data)
