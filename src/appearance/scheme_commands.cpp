@@ -27,11 +27,11 @@ SchemeCommands::SchemeCommands(Platform& platform, Module1& module, SchemeStore&
 
 bool SchemeCommands::FillList()
 {
-    const auto text = store_.ReadText();
-    if (!text) {
+    const FileResult file = store_.ReadText();
+    if (!file) {
         return false;
     }
-    list_.FillWhenAsked([names = SchemeNames(*text)] { return names; });
+    list_.FillWhenAsked([names = SchemeNames(file.text)] { return names; });
     return true;
 }
 

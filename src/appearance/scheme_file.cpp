@@ -22,49 +22,25 @@ struct Components {
     }
 };
 
-/// Hands out the lines of a text one by one, without their ends.
-class LineReader
+bool SkipTo(LineReader& lines, std::string_view wanted)
 {
-public:
-    explicit LineReader(std::string_view text) : rest_(text) {}
-
-    std::optional<std::string_view> Next()
-    {
-        if (rest_.empty()) {
-            return std::nullopt;
+    for (auto line = lines.Next(); line; line = lines.Next()) {
+        if (*line == wanted) {
+            return true;
         }
-        const auto end = rest_.find('\n');
-        std::string_view line = rest_.substr(0, end);
-        rest_.remove_prefix(end == std::string_view::npos ? rest_.size() : end + 1);
-        if (end != std::string_view::npos && line.ends_with('\r')) {
-            line.remove_suffix(1);
-        }
-        return line;
     }
+    return false;
+}
 
-    bool SkipTo(std::string_view wanted)
-    {
-        for (auto line = Next(); line; line = Next()) {
-            if (*line == wanted) {
-                return true;
-            }
+bool Skip(LineReader& lines, std::size_t count)
+{
+    for (; count > 0; --count) {
+        if (!lines.Next()) {
+            return false;
         }
-        return false;
     }
-
-    bool Skip(std::size_t count)
-    {
-        for (; count > 0; --count) {
-            if (!Next()) {
-                return false;
-            }
-        }
-        return true;
-    }
-
-private:
-    std::string_view rest_;
-};
+    return true;
+}
 
 /// A field that is missing, negative or no number counts as 0.
 Components ReadComponents(std::string_view line)
@@ -135,7 +111,7 @@ bool ReadEntry(std::string_view text, std::string_view name, SlotSource source, 
     static constexpr std::size_t darkEdgeSlot = 5;
 
     LineReader lines(text);
-    if (!lines.SkipTo(name)) {
+    if (!SkipTo(lines, name)) {
         return false;
     }
     Components colour;
@@ -186,7 +162,7 @@ std::optional<std::string> WithEntryReplaced(std::string_view text, std::string_
             AppendLine(changed, *line);
             continue;
         }
-        if (!lines.Skip(StoredSlots)) {
+        if (!Skip(lines, StoredSlots)) {
             return std::nullopt;
         }
         changed.append(entry);

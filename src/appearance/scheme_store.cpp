@@ -13,8 +13,8 @@ SchemeStore::SchemeStore(Module1& module, MsgForm& messageBox)
 
 void SchemeStore::ReadScheme(const std::string& name)
 {
-    const auto text = ReadText();
-    if (text && ReadEntry(*text, name, SlotSource::Derived, module_)) {
+    const FileResult file = ReadText();
+    if (file && ReadEntry(file.text, name, SlotSource::Derived, module_)) {
         return;
     }
     messageBox_.MsgboxA("Colour Scheme: " + name + " not found", "vbcritical", -1, -1);
@@ -32,8 +32,8 @@ Colour SchemeStore::PreviewScheme(const std::string& name)
         module_.SchemeColors[lightEdgeSlot] = Black;
         return ofLists;
     }
-    const auto text = ReadText();
-    if (text && ReadEntry(*text, name, SlotSource::File, module_)) {
+    const FileResult file = ReadText();
+    if (file && ReadEntry(file.text, name, SlotSource::File, module_)) {
         return module_.Background();
     }
     platform_.PlainMessage("Color Scheme: " + name + " not found", PlainButtons::Ok);
@@ -41,23 +41,21 @@ Colour SchemeStore::PreviewScheme(const std::string& name)
     return Black;
 }
 
-std::optional<std::string> SchemeStore::ReadText() const
+FileResult SchemeStore::ReadText() const
 {
     return platform_.ReadFile(module_.AllColFile);
 }
 
 bool SchemeStore::AddEntry(const std::string& nameLine) const
 {
-    auto text = ReadText();
-    if (!text) {
-        // A file that is there but can't be read must not be written over.
-        if (platform_.IsPlainFile(module_.AllColFile)) {
-            return false;
-        }
-        text.emplace();
+    FileResult file = ReadText();
+    // A file that is there but can't be read must not be written over.
+    if (!file && file.fault != FileFault::Missing) {
+        return false;
     }
     return ReplaceFile(platform_, module_.AllColFile,
-                       WithEntryAdded(std::move(*text), EntryText(nameLine, module_)));
+                       WithEntryAdded(std::move(file.text), EntryText(nameLine, module_))) ==
+           FileFault::None;
 }
 
 bool SchemeStore::ReplaceEntry(const std::string& nameLine) const
@@ -72,15 +70,15 @@ bool SchemeStore::DeleteEntry(const std::string& nameLine) const
 
 bool SchemeStore::RewriteEntry(const std::string& nameLine, const std::string& entry) const
 {
-    const auto text = ReadText();
-    return text && StoreByWayOfCopy(WithEntryReplaced(*text, nameLine, entry));
+    const FileResult file = ReadText();
+    return file && StoreByWayOfCopy(WithEntryReplaced(file.text, nameLine, entry));
 }
 
 bool SchemeStore::StoreByWayOfCopy(const std::optional<std::string>& changed) const
 {
     const std::string copy = module_.AppDir + "newall.cox";
-    return changed && ReplaceFile(platform_, copy, *changed) &&
-           CopyFile(platform_, copy, module_.AllColFile);
+    return changed && ReplaceFile(platform_, copy, *changed) == FileFault::None &&
+           CopyFile(platform_, copy, module_.AllColFile) == FileFault::None;
 }
 
 } // namespace tessarine

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "kit/message_box.h"
+#include "runtime/file_fault.h"
 #include "table/module1.h"
 
 #include <optional>
@@ -26,8 +27,8 @@ public:
     /// message, "default.col" as the name of the active scheme, and black.
     Colour PreviewScheme(const std::string& name);
 
-    /// The whole text of the file; none if it can't be read.
-    std::optional<std::string> ReadText() const;
+    /// The whole text of the file.
+    FileResult ReadText() const;
 
     /// Stores the present SchemeColors as a new last entry. A file that isn't there yet is made.
     /// False: the file is as it was.

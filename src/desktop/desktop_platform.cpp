@@ -282,19 +282,24 @@ void DesktopPlatform::PlayWave(const std::string& path)
 
 // --- files ---
 
-std::optional<std::string> DesktopPlatform::ReadFile(const std::string& path)
+FileResult DesktopPlatform::ReadFile(const std::string& path)
 {
     return files::Read(path);
 }
 
-bool DesktopPlatform::WriteNewFile(const std::string& path, std::string_view bytes)
+FileResult DesktopPlatform::PlaceToWrite(const std::string& path)
 {
-    return files::WriteNew(path, bytes);
+    return files::PlaceToWrite(path);
 }
 
-bool DesktopPlatform::RenameFile(const std::string& from, const std::string& to)
+FileFault DesktopPlatform::WriteNewFile(const std::string& path, std::string_view bytes)
 {
-    return files::Rename(from, to);
+    return files::WriteNew(files::PathOf(path), bytes);
+}
+
+FileFault DesktopPlatform::RenameFile(const std::string& from, const std::string& to)
+{
+    return files::Rename(files::PathOf(from), files::PathOf(to));
 }
 
 void DesktopPlatform::RemoveFile(const std::string& path)
@@ -315,6 +320,11 @@ std::string DesktopPlatform::CurrentFolder()
 void DesktopPlatform::ChangeFolder(const std::string& folder)
 {
     files::ChangeFolder(folder);
+}
+
+std::string_view DesktopPlatform::FolderSeparators() const
+{
+    return files::FolderSeparators();
 }
 
 } // namespace tessarine

@@ -58,14 +58,15 @@ public:
 
     void PlayWave(const std::string& path) override;
 
-    std::optional<std::string> ReadFile(const std::string& path) override;
-    bool WriteNewFile(const std::string& path, std::string_view bytes) override;
-    bool RenameFile(const std::string& from, const std::string& to) override;
+    FileResult ReadFile(const std::string& path) override;
+    FileResult PlaceToWrite(const std::string& path) override;
+    FileFault WriteNewFile(const std::string& path, std::string_view bytes) override;
+    FileFault RenameFile(const std::string& from, const std::string& to) override;
     void RemoveFile(const std::string& path) override;
     bool IsPlainFile(const std::string& path) override;
     std::string CurrentFolder() override;
     void ChangeFolder(const std::string& folder) override;
-    char FolderSeparator() const override { return '/'; }
+    std::string_view FolderSeparators() const override;
 
 protected:
     void timerEvent(QTimerEvent* event) override;

@@ -2,139 +2,149 @@
 
 #include <array>
 #include <cerrno>
-#include <cstdio>
-#include <filesystem>
-#include <system_error>
+#include <fstream>
 #include <utility>
-
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 namespace tessarine::files
 {
 namespace
 {
 
-class Descriptor
+namespace fs = std::filesystem;
+
+std::string Utf8(const fs::path& path)
 {
-public:
-    explicit Descriptor(int number) : number_(number) {}
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-    ~Descriptor() { Close(); }
-
-    bool IsOpen() const { return number_ >= 0; }
-    int Number() const { return number_; }
-    /// A network disk may report a lost write only here.
-    bool Close() { return number_ < 0 || ::close(std::exchange(number_, -1)) == 0; }
-
-private:
-    int number_;
-};
-
-bool IsRegular(int descriptor)
-{
-    struct stat facts {
-    };
-    return ::fstat(descriptor, &facts) == 0 && S_ISREG(facts.st_mode);
+    const std::u8string text = path.u8string();
+    return {text.begin(), text.end()};
 }
 
-bool WriteAll(int descriptor, std::string_view bytes)
+/// What keeps the place from being a plain file that can be opened; Missing where nothing is.
+FileFault FaultOfKind(const fs::path& path)
 {
-    while (!bytes.empty()) {
-        const ssize_t written = ::write(descriptor, bytes.data(), bytes.size());
-        if (written < 0 && errno == EINTR) {
-            continue;
-        }
-        if (written <= 0) {
-            return false;
-        }
-        bytes.remove_prefix(static_cast<std::size_t>(written));
+    std::error_code failure;
+    const fs::file_status status = fs::status(path, failure);
+    switch (status.type()) {
+    case fs::file_type::regular:
+        return FileFault::None;
+    case fs::file_type::directory:
+        return FileFault::IsFolder;
+    case fs::file_type::not_found:
+        return FileFault::Missing;
+    default:
+        return failure ? FaultOf(failure) : FileFault::Other;
     }
-    return true;
 }
 
-std::string FolderOf(const std::string& path)
+/// Where a chain of links ends, whether or not something is there. One that goes in circles is given
+/// up on the way.
+fs::path EndOfLinks(fs::path path)
 {
-    const std::string folder = std::filesystem::path(path).parent_path().string();
-    return folder.empty() ? "." : folder;
-}
-
-/// The new name is on the disk only when the folder is. The rename itself has been done by now and a
-/// file system that can't flush a folder does so in its own time, so there is nothing to report.
-void FlushFolder(const std::string& folder)
-{
-    const Descriptor descriptor(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (descriptor.IsOpen()) {
-        ::fsync(descriptor.Number());
+    constexpr int longestChain = 40;
+    std::error_code failure;
+    for (int links = 0; links < longestChain && fs::is_symlink(fs::symlink_status(path, failure));
+         ++links) {
+        const fs::path target = fs::read_symlink(path, failure);
+        path = path.parent_path() / target; // the target alone, if it names its whole way
     }
+    return path;
 }
 
 } // namespace
 
-std::optional<std::string> Read(const std::string& path)
+fs::path PathOf(std::string_view utf8)
 {
-    // Without O_NONBLOCK the opening of a pipe would wait for somebody to write into it.
-    const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
-    if (!file.IsOpen() || !IsRegular(file.Number())) {
-        return std::nullopt;
+    return {std::u8string(utf8.begin(), utf8.end())};
+}
+
+FileFault FaultOf(const std::error_code& failure)
+{
+    static constexpr std::array<std::pair<std::errc, FileFault>, 9> faults = {{
+        {std::errc::no_such_file_or_directory, FileFault::Missing},
+        {std::errc::not_a_directory, FileFault::Missing},
+        {std::errc::permission_denied, FileFault::Forbidden},
+        {std::errc::operation_not_permitted, FileFault::Forbidden},
+        {std::errc::read_only_file_system, FileFault::Forbidden},
+        {std::errc::is_a_directory, FileFault::IsFolder},
+        {std::errc::directory_not_empty, FileFault::IsFolder},
+        {std::errc::no_space_on_device, FileFault::Full},
+        {std::errc::file_too_large, FileFault::Full},
+    }};
+    if (!failure) {
+        return FileFault::None;
+    }
+    for (const auto& [error, fault] : faults) {
+        if (failure == error) {
+            return fault;
+        }
+    }
+    return FileFault::Other;
+}
+
+FileResult Read(const std::string& path)
+{
+    const fs::path place = PathOf(path);
+    if (const FileFault fault = FaultOfKind(place); fault != FileFault::None) {
+        return fault;
+    }
+    std::ifstream file(place, std::ios::binary);
+    if (!file) {
+        return FaultOf({errno, std::generic_category()});
     }
     std::string bytes;
     std::array<char, 16384> piece{};
-    for (;;) {
-        const ssize_t count = ::read(file.Number(), piece.data(), piece.size());
-        if (count == 0) {
-            return bytes;
-        }
-        if (count > 0) {
-            bytes.append(piece.data(), static_cast<std::size_t>(count));
-        } else if (errno != EINTR) {
-            return std::nullopt;
-        }
+    while (file && bytes.size() <= LargestFile) {
+        file.read(piece.data(), piece.size());
+        bytes.append(piece.data(), static_cast<std::size_t>(file.gcount()));
     }
+    if (file.bad()) {
+        return FileFault::Other;
+    }
+    if (bytes.size() > LargestFile) {
+        return FileFault::TooLarge;
+    }
+    return bytes;
 }
 
-bool WriteNew(const std::string& path, std::string_view bytes)
+FileResult PlaceToWrite(const std::string& path)
 {
-    Descriptor file(::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NONBLOCK, 0666));
-    return file.IsOpen() && IsRegular(file.Number()) && WriteAll(file.Number(), bytes) &&
-           ::fsync(file.Number()) == 0 && file.Close();
-}
-
-bool Rename(const std::string& from, const std::string& to)
-{
-    if (std::rename(from.c_str(), to.c_str()) != 0) {
-        return false;
+    const fs::path place = EndOfLinks(PathOf(path));
+    const FileFault fault = FaultOfKind(place);
+    if (fault == FileFault::None && IsWriteProtected(place)) {
+        return FileFault::Forbidden;
     }
-    FlushFolder(FolderOf(to));
-    return true;
+    if (fault != FileFault::None && fault != FileFault::Missing) {
+        return fault;
+    }
+    return Utf8(place);
 }
 
 void Remove(const std::string& path)
 {
-    ::unlink(path.c_str());
+    std::error_code failure;
+    fs::remove(PathOf(path), failure);
 }
 
 bool IsPlain(const std::string& path)
 {
-    const std::string name = std::filesystem::path(path).filename().string();
-    struct stat facts {
-    };
-    return !name.empty() && name.front() != '.' && ::stat(path.c_str(), &facts) == 0 &&
-           S_ISREG(facts.st_mode);
+    const fs::path place = PathOf(path);
+    return FaultOfKind(place) == FileFault::None && !IsHidden(place);
 }
 
 std::string CurrentFolder()
 {
     std::error_code failure;
-    return std::filesystem::current_path(failure).string();
+    return Utf8(fs::current_path(failure));
 }
 
 void ChangeFolder(const std::string& folder)
 {
     std::error_code failure;
-    std::filesystem::current_path(folder, failure);
+    fs::current_path(PathOf(folder), failure);
+}
+
+std::string_view FolderSeparators()
+{
+    return fs::path::preferred_separator == '/' ? "/" : "\\/";
 }
 
 } // namespace tessarine::files

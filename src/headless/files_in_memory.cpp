@@ -14,13 +14,13 @@ std::string_view FolderOf(std::string_view path)
 
 } // namespace
 
-bool HeadlessPlatform::FileOperationFails()
+FileFault HeadlessPlatform::NextOperationsFault()
 {
     const int operation = fileOperations++;
-    if (failingFileOperation < 0) {
-        return false;
-    }
-    return operation == failingFileOperation || (failsFromThere && operation > failingFileOperation);
+    const bool fails =
+        failingFileOperation >= 0 &&
+        (operation == failingFileOperation || (failsFromThere && operation > failingFileOperation));
+    return fails ? failure : FileFault::None;
 }
 
 std::string HeadlessPlatform::Resolved(const std::string& path) const
@@ -31,56 +31,93 @@ std::string HeadlessPlatform::Resolved(const std::string& path) const
     return currentFolder.ends_with('/') ? currentFolder + path : currentFolder + '/' + path;
 }
 
-bool HeadlessPlatform::IsReadOnly(const std::string& resolved) const
-{
-    const std::string folder(FolderOf(resolved));
-    return readOnlyFolders.contains(folder) || readOnlyFolders.contains(folder + '/');
-}
-
 bool HeadlessPlatform::IsFolder(const std::string& resolved) const
 {
     return resolved.ends_with('/') || files.contains(resolved + '/');
 }
 
-std::optional<std::string> HeadlessPlatform::ReadFile(const std::string& path)
+/// What keeps a file of this name from being made, put in place or removed.
+FileFault HeadlessPlatform::FaultOfChange(const std::string& resolved) const
 {
-    const std::string resolved = Resolved(path);
+    const std::string folder(FolderOf(resolved));
+    if (readOnlyFolders.contains(folder) || readOnlyFolders.contains(folder + '/')) {
+        return FileFault::Forbidden;
+    }
+    return IsFolder(resolved) ? FileFault::IsFolder : FileFault::None;
+}
+
+FileFault HeadlessPlatform::FaultOfRead(const std::string& resolved) const
+{
+    if (IsFolder(resolved)) {
+        return FileFault::IsFolder;
+    }
     const auto file = files.find(resolved);
-    if (FileOperationFails() || file == files.end() || IsFolder(resolved)) {
-        return std::nullopt;
+    if (file == files.end()) {
+        return FileFault::Missing;
     }
-    return file->second;
+    return file->second.size() > LargestFile ? FileFault::TooLarge : FileFault::None;
 }
 
-bool HeadlessPlatform::WriteNewFile(const std::string& path, std::string_view bytes)
+FileResult HeadlessPlatform::ReadFile(const std::string& path)
+{
+    const auto link = links.find(Resolved(path));
+    const std::string resolved = link == links.end() ? Resolved(path) : link->second;
+    FileFault fault = NextOperationsFault();
+    if (fault == FileFault::None) {
+        fault = FaultOfRead(resolved);
+    }
+    return fault == FileFault::None ? FileResult(files[resolved]) : FileResult(fault);
+}
+
+FileResult HeadlessPlatform::PlaceToWrite(const std::string& path)
+{
+    const auto link = links.find(Resolved(path));
+    const std::string place = link == links.end() ? path : link->second;
+    FileFault fault = NextOperationsFault();
+    if (fault == FileFault::None && IsFolder(Resolved(place))) {
+        fault = FileFault::IsFolder;
+    }
+    if (fault == FileFault::None && writeProtected.contains(Resolved(place))) {
+        fault = FileFault::Forbidden;
+    }
+    return fault == FileFault::None ? FileResult(place) : FileResult(fault);
+}
+
+FileFault HeadlessPlatform::WriteNewFile(const std::string& path, std::string_view bytes)
 {
     const std::string resolved = Resolved(path);
-    const bool fails = FileOperationFails();
-    if (IsReadOnly(resolved) || IsFolder(resolved)) {
-        return false;
+    const FileFault fault = NextOperationsFault();
+    if (const FileFault own = FaultOfChange(resolved); own != FileFault::None) {
+        return own;
     }
-    files[resolved] = fails ? bytes.substr(0, bytes.size() / 2) : bytes;
-    return !fails;
+    if (fault == FileFault::None) {
+        files[resolved] = bytes;
+    } else if (fault == FileFault::Full || fault == FileFault::Other) {
+        files[resolved] = bytes.substr(0, bytes.size() / 2);
+    }
+    return fault;
 }
 
-bool HeadlessPlatform::RenameFile(const std::string& from, const std::string& to)
+FileFault HeadlessPlatform::RenameFile(const std::string& from, const std::string& to)
 {
     const std::string source = Resolved(from);
     const std::string target = Resolved(to);
-    const bool fails = FileOperationFails() || IsReadOnly(source) || IsReadOnly(target);
-    if (fails || IsFolder(source) || IsFolder(target) || !files.contains(source)) {
-        return false;
+    for (const FileFault fault :
+         {NextOperationsFault(), FaultOfRead(source), FaultOfChange(source), FaultOfChange(target)}) {
+        if (fault != FileFault::None) {
+            return fault;
+        }
     }
     std::string bytes = std::move(files[source]);
     files.erase(source);
     files[target] = std::move(bytes);
-    return true;
+    return FileFault::None;
 }
 
 void HeadlessPlatform::RemoveFile(const std::string& path)
 {
     const std::string resolved = Resolved(path);
-    if (!IsReadOnly(resolved) && !IsFolder(resolved)) {
+    if (FaultOfChange(resolved) == FileFault::None) {
         files.erase(resolved);
     }
 }

@@ -71,11 +71,12 @@ void HeadlessPlatform::AnswerModal(const std::string& caption)
     });
 }
 
-void HeadlessPlatform::ResetFileOperations(int failing, bool fromThere)
+void HeadlessPlatform::ResetFileOperations(int failing, bool fromThere, FileFault why)
 {
     fileOperations = 0;
     failingFileOperation = failing;
     failsFromThere = fromThere;
+    failure = why;
 }
 
 // --- forms ---

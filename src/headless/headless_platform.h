@@ -55,17 +55,22 @@ public:
 
     /// Path to bytes. A path that ends in "/" is a folder.
     std::map<std::string, std::string> files;
+    std::map<std::string, std::string> links; ///< path to the path that it leads to
+    std::set<std::string> writeProtected;     ///< files
     std::string currentFolder = "/run";
+    std::string separators = "/"; ///< what the program is told; the disk itself knows "/" alone
     std::set<std::string> hiddenFiles;
     /// Folders, with or without the "/" at their ends, in which nothing can be made, renamed or removed.
     std::set<std::string> readOnlyFolders;
-    /// The file operation (ReadFile, WriteNewFile, RenameFile, counted together from 0 since the last
-    /// ResetFileOperations) that fails; -1 for none. A failed write leaves half of the bytes behind.
+    /// The file operation (ReadFile, PlaceToWrite, WriteNewFile, RenameFile, counted together from 0
+    /// since the last ResetFileOperations) that fails; -1 for none. A write that finds the disk full or
+    /// broken leaves half of the bytes behind.
     int failingFileOperation = -1;
     /// From `failingFileOperation` on every file operation fails.
     bool failsFromThere = false;
+    FileFault failure = FileFault::Full; ///< why it fails
     int fileOperations = 0;
-    void ResetFileOperations(int failing = -1, bool fromThere = false);
+    void ResetFileOperations(int failing = -1, bool fromThere = false, FileFault why = FileFault::Full);
 
     std::vector<std::string> fonts = {"Arial", "Courier New", "DejaVu Sans", "Liberation Sans"};
     PixelPoint cursor;
@@ -119,14 +124,15 @@ public:
     std::string AskForText(const std::string& prompt) override;
     std::string ChooseFile(const FileDialogRequest& request, Form* owner) override;
     void PlayWave(const std::string& path) override;
-    std::optional<std::string> ReadFile(const std::string& path) override;
-    bool WriteNewFile(const std::string& path, std::string_view bytes) override;
-    bool RenameFile(const std::string& from, const std::string& to) override;
+    FileResult ReadFile(const std::string& path) override;
+    FileResult PlaceToWrite(const std::string& path) override;
+    FileFault WriteNewFile(const std::string& path, std::string_view bytes) override;
+    FileFault RenameFile(const std::string& from, const std::string& to) override;
     void RemoveFile(const std::string& path) override;
     bool IsPlainFile(const std::string& path) override;
     std::string CurrentFolder() override;
     void ChangeFolder(const std::string& folder) override;
-    char FolderSeparator() const override { return '/'; }
+    std::string_view FolderSeparators() const override { return separators; }
 
     /// Whether a timer is running or an event waits: false while the program is idle.
     bool HasWork() const;
@@ -144,9 +150,10 @@ private:
     int DrawnNow(const std::vector<Control*>& changes);
     bool RunNextMeanwhile();
     bool FireNextTimer(std::int64_t until);
-    bool FileOperationFails();
+    FileFault NextOperationsFault();
     std::string Resolved(const std::string& path) const;
-    bool IsReadOnly(const std::string& resolved) const;
+    FileFault FaultOfChange(const std::string& resolved) const;
+    FileFault FaultOfRead(const std::string& resolved) const;
     bool IsFolder(const std::string& resolved) const;
 
     std::mt19937_64 random_;

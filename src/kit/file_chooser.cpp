@@ -3,6 +3,8 @@
 #include "runtime/files.h"
 #include "runtime/form.h"
 
+#include <algorithm>
+
 namespace tessarine
 {
 namespace
@@ -21,15 +23,6 @@ std::string WithExtension(std::string_view chosen, std::string_view types)
         path.append(types.substr(star + 1, ExtensionLength));
     }
     return path;
-}
-
-/// Where the extension of a path begins, at its dot; the end of a path whose name has none.
-std::size_t ExtensionStart(const Platform& platform, std::string_view path)
-{
-    const auto dot = path.rfind('.');
-    const auto separator = path.rfind(platform.FolderSeparator());
-    const bool isInFolder = separator != std::string_view::npos && dot < separator;
-    return dot == std::string_view::npos || isInFolder ? path.size() : dot;
 }
 
 Whole NumberBehind(Whole number)
@@ -93,16 +86,20 @@ bool FileExists(Platform& platform, const std::string& path)
 
 std::string NextFreeName(Platform& platform, const std::string& path)
 {
-    const auto dot = ExtensionStart(platform, path);
-    const auto semicolon = path.rfind(';', dot);
-    const bool hasNumber = semicolon != std::string::npos;
-    const std::string before = path.substr(0, hasNumber ? semicolon : dot) + ';';
-    const std::string_view extension = std::string_view(path).substr(dot);
+    // A ";" or a dot in the folder is no part of the name.
+    const auto nameStart = NameStart(platform, path);
+    const std::string_view name = std::string_view(path).substr(nameStart);
+    const auto dot = std::min(name.rfind('.'), name.size());
+    const auto semicolon = name.substr(0, dot).rfind(';');
+    const bool hasNumber = semicolon != std::string_view::npos;
+    const std::string_view bare = name.substr(0, hasNumber ? semicolon : dot);
+    const std::string_view extension = name.substr(dot);
 
-    Whole number = hasNumber ? WholeAtStart(path.substr(semicolon + 1, dot - semicolon - 1)) : 0;
+    Whole number = hasNumber ? WholeAtStart(name.substr(semicolon + 1, dot - semicolon - 1)) : 0;
     for (int tries = 0; tries < LastNumber; ++tries) {
         number = NumberBehind(number);
-        std::string candidate = before;
+        std::string candidate = path.substr(0, nameStart);
+        candidate.append(bare).append(1, ';');
         candidate.append(TwoDigits(number)).append(extension);
         if (!FileExists(platform, candidate)) {
             return candidate;

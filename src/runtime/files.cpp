@@ -3,33 +3,70 @@
 namespace tessarine
 {
 
-bool ReplaceFile(Platform& platform, const std::string& path, std::string_view bytes)
+std::string_view Reason(FileFault fault)
 {
-    const std::string beside = path + ".part";
-    if (platform.WriteNewFile(beside, bytes) && platform.RenameFile(beside, path)) {
-        return true;
+    switch (fault) {
+    case FileFault::None:
+        break;
+    case FileFault::Missing:
+        return "The file or its folder is not there";
+    case FileFault::Forbidden:
+        return "The file or its folder is protected";
+    case FileFault::IsFolder:
+        return "A folder has this name";
+    case FileFault::Full:
+        return "The disk is full";
+    case FileFault::TooLarge:
+        return "The file is too large to be one of this program";
+    case FileFault::Other:
+        return "It is no plain file, or the disk is at fault";
     }
-    platform.RemoveFile(beside);
-    return false;
+    return {};
 }
 
-bool CopyFile(Platform& platform, const std::string& from, const std::string& to)
+FileFault ReplaceFile(Platform& platform, const std::string& path, std::string_view bytes)
 {
-    const auto bytes = platform.ReadFile(from);
-    return bytes && ReplaceFile(platform, to, *bytes);
+    const FileResult place = platform.PlaceToWrite(path);
+    if (!place) {
+        return place.fault;
+    }
+    const std::string beside = place.text + ".part";
+    FileFault fault = platform.WriteNewFile(beside, bytes);
+    if (fault == FileFault::None) {
+        fault = platform.RenameFile(beside, place.text);
+    }
+    if (fault != FileFault::None) {
+        platform.RemoveFile(beside);
+    }
+    return fault;
+}
+
+FileFault CopyFile(Platform& platform, const std::string& from, const std::string& to)
+{
+    const FileResult bytes = platform.ReadFile(from);
+    return bytes ? ReplaceFile(platform, to, bytes.text) : bytes.fault;
+}
+
+std::optional<std::string_view> LineReader::Next()
+{
+    if (rest_.empty()) {
+        return std::nullopt;
+    }
+    const auto end = rest_.find('\n');
+    std::string_view line = rest_.substr(0, end);
+    rest_.remove_prefix(end == std::string_view::npos ? rest_.size() : end + 1);
+    if (line.ends_with('\r')) {
+        line.remove_suffix(1);
+    }
+    return line;
 }
 
 std::vector<std::string> SplitLines(std::string_view text)
 {
     std::vector<std::string> lines;
-    while (!text.empty()) {
-        const auto end = text.find('\n');
-        std::string_view line = text.substr(0, end);
-        if (end != std::string_view::npos && line.ends_with('\r')) {
-            line.remove_suffix(1);
-        }
-        lines.emplace_back(line);
-        text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
+    LineReader reader(text);
+    for (auto line = reader.Next(); line; line = reader.Next()) {
+        lines.emplace_back(*line);
     }
     return lines;
 }
@@ -45,7 +82,14 @@ std::string JoinLines(const std::vector<std::string>& lines)
 
 std::string WithSeparator(const Platform& platform, const std::string& folder)
 {
-    return folder.ends_with(platform.FolderSeparator()) ? folder : folder + platform.FolderSeparator();
+    const bool hasOne = NameStart(platform, folder) == folder.size() && !folder.empty();
+    return hasOne ? folder : folder + platform.FolderSeparators().front();
+}
+
+std::size_t NameStart(const Platform& platform, std::string_view path)
+{
+    const auto separator = path.find_last_of(platform.FolderSeparators());
+    return separator == std::string_view::npos ? 0 : separator + 1;
 }
 
 } // namespace tessarine

@@ -1,10 +1,10 @@
 // The one door: everything that the program asks of the world outside it.
 #pragma once
 
+#include "runtime/file_fault.h"
 #include "runtime/font.h"
 #include "runtime/units.h"
 
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -101,21 +101,25 @@ public:
     /// Plays a wave file and returns at once; silence where that can't be.
     virtual void PlayWave(const std::string& path) = 0;
 
-    // Files. Paths are the system's; text is bytes. What files.h builds on these is what the program
-    // calls.
-    /// The whole file; none if it can't be read or is no plain file.
-    virtual std::optional<std::string> ReadFile(const std::string& path) = 0;
-    /// Makes or empties a file, writes it and flushes it to the disk. False: it may be left in part.
-    virtual bool WriteNewFile(const std::string& path, std::string_view bytes) = 0;
-    /// Puts a file in place of another, whole or not at all, and flushes the folder.
-    virtual bool RenameFile(const std::string& from, const std::string& to) = 0;
+    // Files. Paths are UTF-8; text is bytes. What files.h builds on these is what the program calls.
+    /// The whole file.
+    virtual FileResult ReadFile(const std::string& path) = 0;
+    /// The place to which a write of this path has to go: where it leads if it is a link, itself if
+    /// not. A fault if nothing may be put there, such as over a file that is write-protected.
+    virtual FileResult PlaceToWrite(const std::string& path) = 0;
+    /// Makes or empties a file, writes it and flushes it to the disk. With a fault it may be left in
+    /// part.
+    virtual FileFault WriteNewFile(const std::string& path, std::string_view bytes) = 0;
+    /// Puts a file in place of another, whole or not at all, and flushes the folder. The other's mode
+    /// stays.
+    virtual FileFault RenameFile(const std::string& from, const std::string& to) = 0;
     virtual void RemoveFile(const std::string& path) = 0;
     /// Whether a plain file of that name is there: no folder, nothing hidden.
     virtual bool IsPlainFile(const std::string& path) = 0;
     virtual std::string CurrentFolder() = 0;
     virtual void ChangeFolder(const std::string& folder) = 0;
-    /// The separator between folders.
-    virtual char FolderSeparator() const = 0;
+    /// The characters that part folders, the usual one first.
+    virtual std::string_view FolderSeparators() const = 0;
 };
 
 } // namespace tessarine

@@ -70,19 +70,19 @@ std::string Configuration::Path() const
 
 void Configuration::ReadcfgFile()
 {
-    const auto text = platform_.ReadFile(Path());
-    if (text && ReadAll(ValueStream(*text), shared_)) {
+    const FileResult file = platform_.ReadFile(Path());
+    if (file && ReadAll(ValueStream(file.text), shared_)) {
         return;
     }
     Complain("could not be accessed, new file will be created");
     SetNewValues();
     // Where even that can't be written the program goes on with the new values.
-    ReplaceFile(platform_, Path(), Text());
+    static_cast<void>(ReplaceFile(platform_, Path(), Text()));
 }
 
 void Configuration::SavecfgFile()
 {
-    if (!ReplaceFile(platform_, Path(), Text())) {
+    if (ReplaceFile(platform_, Path(), Text()) != FileFault::None) {
         Complain("could not be accessed, options not saved");
     }
 }

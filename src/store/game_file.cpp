@@ -39,7 +39,7 @@ std::string FaultOfGame(const std::vector<std::string>& lines)
 bool GameFile::SaveCardOrder(const std::string& path)
 {
     const std::vector<std::string> lines(table_.CardOrder.begin(), table_.CardOrder.end());
-    if (ReplaceFile(table_.form().platform(), path, JoinLines(lines))) {
+    if (ReplaceFile(table_.form().platform(), path, JoinLines(lines)) == FileFault::None) {
         return true;
     }
     Complain("The deal could not be written to file:", path,
@@ -49,12 +49,12 @@ bool GameFile::SaveCardOrder(const std::string& path)
 
 bool GameFile::LoadCardOrder(const std::string& path)
 {
-    const auto text = table_.form().platform().ReadFile(path);
-    if (!text) {
+    const FileResult file = table_.form().platform().ReadFile(path);
+    if (!file) {
         Complain("Game file could not be read:", path, "The game on the table goes on.");
         return false;
     }
-    const std::vector<std::string> lines = SplitLines(*text);
+    const std::vector<std::string> lines = SplitLines(file.text);
     if (const std::string fault = FaultOfGame(lines); !fault.empty()) {
         Complain("This is no game file:", path, fault + ". The game on the table goes on.");
         return false;
@@ -72,7 +72,7 @@ bool GameFile::LoadCardOrder(const std::string& path)
 
 bool GameFile::Copy(const std::string& from, const std::string& to)
 {
-    if (CopyFile(table_.form().platform(), from, to)) {
+    if (CopyFile(table_.form().platform(), from, to) == FileFault::None) {
         return true;
     }
     Complain("Game could not be saved to file:", to, "Nothing was written. The game goes on.");

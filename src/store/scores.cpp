@@ -118,14 +118,14 @@ void ScoresBox::Restyled()
 
 void ScoresBox::Start()
 {
-    const auto text = platform_.ReadFile(file_);
-    if (text && !text->empty()) {
-        ShowScores(UnscrambleLine(SplitLines(*text).front()));
+    const FileResult file = platform_.ReadFile(file_);
+    if (!file.text.empty()) {
+        ShowScores(UnscrambleLine(SplitLines(file.text).front()));
         return;
     }
     const std::string line = Today() + " 0" + std::string(ZeroCounts);
     // A file that is there but can't be read is left alone.
-    if (text || !platform_.IsPlainFile(file_)) {
+    if (file || file.fault == FileFault::Missing) {
         Write(line);
     }
     ShowScores(line);
@@ -170,7 +170,7 @@ void ScoresBox::SaveScores()
 
 bool ScoresBox::Write(const std::string& line)
 {
-    return ReplaceFile(platform_, file_, ScrambleLine(line) + std::string(LineEnd));
+    return ReplaceFile(platform_, file_, ScrambleLine(line) + std::string(LineEnd)) == FileFault::None;
 }
 
 void ScoresBox::ShowScores(std::string_view line)

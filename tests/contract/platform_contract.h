@@ -191,23 +191,31 @@ TYPED_TEST_P(PlatformContract, FilesKeepTheirBytes)
     const std::string folder = this->world.WritableFolder();
     const std::string path = folder + "bytes.txt";
     for (const std::string_view bytes : {"07\r\n\xE9\0\xFF\n"sv, "shorter"sv, ""sv}) {
-        EXPECT_TRUE(disk.WriteNewFile(path, bytes));
-        EXPECT_EQ(disk.ReadFile(path), bytes);
+        EXPECT_EQ(disk.WriteNewFile(path, bytes), FileFault::None);
+        EXPECT_EQ(disk.ReadFile(path).text, bytes);
     }
     disk.PlayWave(path); // a file without a sound in it: silence
     const std::string before = disk.CurrentFolder();
     disk.ChangeFolder(folder);
     EXPECT_EQ(WithSeparator(disk, disk.CurrentFolder()), folder);
-    EXPECT_TRUE(disk.WriteNewFile("bare.txt", "new"));
+    EXPECT_EQ(disk.WriteNewFile("bare.txt", "new"), FileFault::None);
     EXPECT_TRUE(disk.IsPlainFile(folder + "bare.txt"));
-    EXPECT_TRUE(disk.RenameFile("bare.txt", path));
-    EXPECT_FALSE(disk.RenameFile("bare.txt", path));
+    EXPECT_EQ(disk.RenameFile("bare.txt", path), FileFault::None);
+    EXPECT_EQ(disk.RenameFile("bare.txt", path), FileFault::Missing);
     disk.ChangeFolder(before);
     EXPECT_EQ(disk.CurrentFolder(), before);
-    EXPECT_EQ(disk.ReadFile(path), "new");
+    EXPECT_EQ(disk.ReadFile(path).text, "new");
+    EXPECT_EQ(disk.PlaceToWrite(path).text, path);
     disk.RemoveFile(path);
     EXPECT_FALSE(disk.IsPlainFile(path) || disk.IsPlainFile(folder));
-    EXPECT_FALSE(disk.ReadFile(folder) || disk.WriteNewFile(folder, "bytes"));
+    EXPECT_EQ(disk.ReadFile(path).fault, FileFault::Missing);
+    EXPECT_EQ(disk.ReadFile(folder).fault, FileFault::IsFolder);
+    EXPECT_EQ(disk.PlaceToWrite(folder).fault, FileFault::IsFolder);
+    EXPECT_EQ(disk.WriteNewFile(folder, "bytes"), FileFault::IsFolder);
+    EXPECT_EQ(disk.WriteNewFile(path, std::string(LargestFile, ' ')), FileFault::None);
+    EXPECT_TRUE(disk.ReadFile(path));
+    EXPECT_EQ(disk.WriteNewFile(path, std::string(LargestFile + 1, ' ')), FileFault::None);
+    EXPECT_EQ(disk.ReadFile(path).fault, FileFault::TooLarge);
 }
 
 TYPED_TEST_P(PlatformContract, OneClockManyDraws)

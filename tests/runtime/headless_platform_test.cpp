@@ -66,7 +66,7 @@ TEST(Headless, AFailedWriteLeavesHalfOfTheBytes)
     HeadlessPlatform platform;
     platform.ResetFileOperations(1);
     EXPECT_FALSE(platform.ReadFile("new.txt")); // counts too
-    EXPECT_FALSE(platform.WriteNewFile("new.txt", "1234"));
+    EXPECT_EQ(platform.WriteNewFile("new.txt", "1234"), FileFault::Full);
     EXPECT_EQ(platform.files["/run/new.txt"], "12");
 }
 
