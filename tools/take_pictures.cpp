@@ -1,9 +1,12 @@
 // Takes the pictures of the help page, the README and the desktop entry from the program itself:
 //   take_pictures PROGRAM-FOLDER DATA-FOLDER DOCS-FOLDER
-// Plays real games until a position shows what a picture is to show. To be run by hand when the look
-// of the table changes; needs no display (QT_QPA_PLATFORM=offscreen).
+// Plays real games until a position shows what a picture is to show. The pictures have four pixels
+// for each that the program counts, so that they are sharp on a fine screen too. To be run by hand
+// when the look of the table changes; needs no display (QT_QPA_PLATFORM=offscreen).
 #include "desktop/desktop_platform.h"
+#include "desktop/painter.h"
 #include "form1.h"
+#include "kit/icons.h"
 #include "table/rules.h"
 
 #include <QApplication>
@@ -12,8 +15,11 @@
 #include <QTemporaryDir>
 
 #include <algorithm>
+#include <array>
 #include <cstdio>
+#include <numeric>
 #include <optional>
+#include <random>
 #include <utility>
 
 using namespace tessarine;
@@ -22,6 +28,7 @@ namespace
 {
 
 constexpr float PictureScale = 1.4F;
+constexpr int IconSide = 256;
 constexpr int MostTries = 2000;
 constexpr int FewCards = 9;
 
@@ -29,11 +36,20 @@ constexpr int FewCards = 9;
 class Player
 {
 public:
-    explicit Player(Form1& form) : form_(form), table_(form.table) {}
+    explicit Player(Form1& form) : form_(form), table_(form.table)
+    {
+        std::iota(order_.begin(), order_.end(), 0);
+    }
 
+    /// The same deals at each run, so that the pictures change only with the look of the table.
     void DealAnew()
     {
-        form_.deal.NewDeal();
+        std::ranges::shuffle(order_, chance_);
+        table_.CardOrder.Clear();
+        for (const int card : order_) {
+            table_.CardOrder.Add(EntryOfCard(card));
+        }
+        form_.deal.DealCards(Replay::PresentOrder);
         form_.scaling.ScaleTable(1.0F);
         form_.ring.NextStockCard();
         form_.undo.Clear();
@@ -143,6 +159,8 @@ private:
 
     Form1& form_;
     Table& table_;
+    std::array<int, CardCount> order_{};
+    std::mt19937 chance_{1};
     Point pointer_;
     int turns_ = 0;
 };
@@ -177,6 +195,14 @@ QPixmap TopRow(const Form1& form)
     const auto top = static_cast<int>(form.table.Picture2.Top() / TwipsPerPixel);
     const auto height = static_cast<int>(form.table.StackTop[0] / TwipsPerPixel);
     return window.grab(QRect(0, top, window.width(), height - 4));
+}
+
+QPixmap ButtonPicture(const BoxControl& button)
+{
+    const Point place = button.PlaceOnForm();
+    return MainWindow()->grab(QRectF(place.x / TwipsPerPixel, place.y / TwipsPerPixel,
+                                     button.Width() / TwipsPerPixel, button.Height() / TwipsPerPixel)
+                                  .toRect());
 }
 
 void Keep(const QPixmap& picture, const QString& path)
@@ -224,6 +250,7 @@ template <class Reached> bool PlayUntil(Player& player, Reached&& isReached)
 
 int main(int argc, char* argv[])
 {
+    qputenv("QT_SCALE_FACTOR", "2");
     QApplication::setStyle(QStringLiteral("fusion"));
     QCoreApplication::setAttribute(Qt::AA_Use96Dpi);
     const QApplication application(argc, argv);
@@ -231,8 +258,11 @@ int main(int argc, char* argv[])
         std::fprintf(stderr, "usage: take_pictures PROGRAM-FOLDER DATA-FOLDER DOCS-FOLDER\n");
         return 1;
     }
-    const QString data = QString::fromLocal8Bit(argv[2]) + QLatin1Char('/');
-    const QString docs = QString::fromLocal8Bit(argv[3]) + QLatin1Char('/');
+    const auto folderOf = [](const char* path) {
+        return QDir(QString::fromLocal8Bit(path)).absolutePath() + QLatin1Char('/');
+    };
+    const QString data = folderOf(argv[2]);
+    const QString docs = folderOf(argv[3]);
 
     // The program runs in a folder of its own, with the data files of the one given.
     const QTemporaryDir folder;
@@ -254,9 +284,17 @@ int main(int argc, char* argv[])
     form.shared.MoveSteps = 0;
     form.scaling.ScaleTable(PictureScale);
     Player player(form);
+    player.DealAnew();
 
-    Keep(MainWindow()->windowIcon().pixmap(QSize(128, 128), 1.0),
-         data + QStringLiteral("tessarine.png"));
+    Keep(PictureAsPixmap(icons::Program(), IconSide), data + QStringLiteral("tessarine.png"));
+    for (const auto& [button, name] :
+         {std::pair(&form.cmdLoadGame, "load"), std::pair(&form.cmdSaveGame, "save"),
+          std::pair(&form.cmdscore, "scores"), std::pair(&form.cmdopts, "options"),
+          std::pair(&form.cmdnewgame, "new"), std::pair(&form.cmdreset, "restore"),
+          std::pair(&form.cmdabout, "about"), std::pair(&form.cmdhelp, "help"),
+          std::pair(&form.cmdexit, "exit"), std::pair(&form.cmdundo, "undo")}) {
+        Keep(ButtonPicture(*button), data + QStringLiteral("help_cmd_%1.png").arg(QLatin1String(name)));
+    }
     Keep(TablePicture(form), data + QStringLiteral("help_table.png"));
     Keep(TopRow(form), data + QStringLiteral("help_stock.png"));
 

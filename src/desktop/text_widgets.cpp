@@ -1,4 +1,5 @@
 // Text to read: the text box and the page of hypertext.
+#include "desktop/page_view.h"
 #include "desktop/text.h"
 #include "desktop/widgets.h"
 
@@ -6,7 +7,6 @@
 #include <QFileInfo>
 #include <QMouseEvent>
 #include <QPlainTextEdit>
-#include <QTextBrowser>
 #include <QUrl>
 
 namespace tessarine
@@ -68,14 +68,14 @@ std::string AsAddress(const QUrl& url)
     return address;
 }
 
-class BrowserWidget final : public QTextBrowser, public NativePeer
+class BrowserWidget final : public PageView, public NativePeer
 {
 public:
     BrowserWidget(Browser& browser, QWidget& parent, Desk& desk)
-        : QTextBrowser(&parent), NativePeer(*this, browser, desk)
+        : PageView(&parent), NativePeer(*this, browser, desk)
     {
         setOpenLinks(false); // the history is the control's
-        QObject::connect(this, &QTextBrowser::anchorClicked, this, [this](const QUrl& url) {
+        QObject::connect(this, &PageView::anchorClicked, this, [this](const QUrl& url) {
             if (url.isLocalFile()) {
                 UserDoes([this, url] { Page().UserFollows(AsAddress(url)); });
             }
@@ -128,7 +128,7 @@ protected:
             event->ignore();
             return;
         }
-        QTextBrowser::keyPressEvent(event);
+        PageView::keyPressEvent(event);
     }
 
 private:

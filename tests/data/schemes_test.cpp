@@ -1,4 +1,5 @@
-// The colour schemes that come with the program: read by its own reader, and fit to be looked at.
+// The colours that come with the program: schemes fit to be looked at, and cards that every eye can tell
+// apart.
 #include "appearance/readable_on.h"
 #include "appearance/scheme_file.h"
 #include "data/read_file.h"
@@ -8,6 +9,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <regex>
 #include <set>
 #include <string>
 #include <vector>
@@ -17,15 +19,89 @@ namespace tessarine
 namespace
 {
 
-/// The brightness that an eye sees, from 0 to 1.
-double Luminance(Colour colour)
+using Triple = std::array<double, 3>;
+using Matrix = std::array<Triple, 3>;
+
+Triple Times(const Matrix& matrix, const Triple& v)
+{
+    Triple product{};
+    for (std::size_t i = 0; i < 3; ++i) {
+        product[i] = matrix[i][0] * v[0] + matrix[i][1] * v[1] + matrix[i][2] * v[2];
+    }
+    return product;
+}
+
+/// The light of a colour, red, green and blue from 0 to 1.
+Triple Light(Colour colour)
 {
     const auto linear = [](int value) {
         const double part = value / 255.0;
         return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
     };
-    return 0.2126 * linear(clrRed(colour)) + 0.7152 * linear(clrGreen(colour)) +
-           0.0722 * linear(clrBlue(colour));
+    return {linear(clrRed(colour)), linear(clrGreen(colour)), linear(clrBlue(colour))};
+}
+
+constexpr Matrix ToXyz = {
+    {{0.4124, 0.3576, 0.1805}, {0.2126, 0.7152, 0.0722}, {0.0193, 0.1192, 0.9505}}};
+
+/// The brightness that an eye sees, from 0 to 1.
+double Luminance(Colour colour)
+{
+    return Times(ToXyz, Light(colour))[1];
+}
+
+/// How the eyes of Machado, Oliveira and Fernandes (2009) see light: all cones, no red, no green, no
+/// blue.
+constexpr std::array<Matrix, 4> Eyes = {{
+    {{{1, 0, 0}, {0, 1, 0}, {0, 0, 1}}},
+    {{{0.152286, 1.052583, -0.204868},
+      {0.114503, 0.786281, 0.099216},
+      {-0.003882, -0.048116, 1.051998}}},
+    {{{0.367322, 0.860646, -0.227968}, {0.280085, 0.672501, 0.047413}, {-0.011820, 0.042940, 0.968881}}},
+    {{{1.255528, -0.076749, -0.178779},
+      {-0.078411, 0.930809, 0.147602},
+      {0.004733, 0.691367, 0.303900}}},
+}};
+
+/// Where an eye sees a colour in the Lab space.
+Triple SeenBy(const Matrix& eye, Colour colour)
+{
+    Triple light = Times(eye, Light(colour));
+    std::ranges::transform(light, light.begin(), [](double part) { return std::clamp(part, 0.0, 1.0); });
+    const Triple xyz = Times(ToXyz, light);
+    const auto f = [](double t) { return t > 0.008856 ? std::cbrt(t) : 7.787 * t + 16.0 / 116; };
+    const double y = f(xyz[1]);
+    return {116 * y - 16, 500 * (f(xyz[0] / 0.9505) - y), 200 * (y - f(xyz[2] / 1.089))};
+}
+
+/// The least distance between two of the colours, for the eye that sees it least.
+double Apart(const std::vector<Colour>& colours)
+{
+    double least = 1000;
+    for (const Matrix& eye : Eyes) {
+        for (std::size_t i = 0; i < colours.size(); ++i) {
+            for (std::size_t j = 0; j < i; ++j) {
+                const Triple one = SeenBy(eye, colours[i]);
+                const Triple other = SeenBy(eye, colours[j]);
+                least =
+                    std::min(least, std::hypot(one[0] - other[0], one[1] - other[1], one[2] - other[2]));
+            }
+        }
+    }
+    return least;
+}
+
+/// The card colours that the help page proposes, from the numbers that it gives.
+std::vector<Colour> ProposedColours()
+{
+    const std::string page = ReadFile(TESSARINE_DATA_DIR "/tessarine.htm");
+    const std::regex row(
+        "<td>Colour [1-5]</td>\\s*<td[^>]*>(\\d+)</td><td[^>]*>(\\d+)</td><td[^>]*>(\\d+)<");
+    std::vector<Colour> colours;
+    for (std::sregex_iterator at(page.begin(), page.end(), row), end; at != end; ++at) {
+        colours.push_back(Rgb(std::stoi((*at)[1]), std::stoi((*at)[2]), std::stoi((*at)[3])));
+    }
+    return colours;
 }
 
 /// 1 for equal brightness, 21 for black on white.
@@ -35,11 +111,23 @@ double Contrast(Colour one, Colour other)
     return (lighter + 0.05) / (darker + 0.05);
 }
 
+TEST(CardColours, OfTheHelpPageAreAsFarApartForEveryEyeAsItSays)
+{
+    const std::vector<Colour> proposed = ProposedColours();
+    ASSERT_EQ(proposed.size(), 5U);
+    EXPECT_GE(Apart(proposed), 35);
+    EXPECT_LE(Apart({Rgb(0, 128, 0), Rgb(128, 128, 0)}), 4) << "two of the first start";
+    for (const Colour colour : proposed) {
+        EXPECT_GE(Contrast(White, colour), 4.7) << colour;
+    }
+}
+
 TEST(SchemesFile, IsToTheByteWhatTheProgramWritesAndKeepsEverythingReadable)
 {
     // The suits of a new configuration and the one that Reset has of its own; black stands out more.
-    const std::array suits = {Rgb(0, 0, 128), Rgb(0, 128, 0), Rgb(128, 128, 0), Rgb(128, 0, 0),
-                              Rgb(0, 128, 128)};
+    std::vector<Colour> suits = ProposedColours();
+    suits.insert(suits.end(),
+                 {Rgb(0, 0, 128), Rgb(0, 128, 0), Rgb(128, 128, 0), Rgb(128, 0, 0), Rgb(0, 128, 128)});
     const std::string text = ReadFile(TESSARINE_DATA_DIR "/all.col");
     const std::vector<std::string> names = SchemeNames(text);
     EXPECT_EQ(std::set(names.begin(), names.end()).size(), 12U);
