@@ -24,11 +24,8 @@ using Matrix = std::array<Triple, 3>;
 
 Triple Times(const Matrix& matrix, const Triple& v)
 {
-    Triple product{};
-    for (std::size_t i = 0; i < 3; ++i) {
-        product[i] = matrix[i][0] * v[0] + matrix[i][1] * v[1] + matrix[i][2] * v[2];
-    }
-    return product;
+    const auto row = [&](const Triple& r) { return r[0] * v[0] + r[1] * v[1] + r[2] * v[2]; };
+    return {row(matrix[0]), row(matrix[1]), row(matrix[2])};
 }
 
 /// The light of a colour, red, green and blue from 0 to 1.
@@ -63,28 +60,25 @@ constexpr std::array<Matrix, 4> Eyes = {{
       {0.004733, 0.691367, 0.303900}}},
 }};
 
-/// Where an eye sees a colour in the Lab space.
-Triple SeenBy(const Matrix& eye, Colour colour)
-{
-    Triple light = Times(eye, Light(colour));
-    std::ranges::transform(light, light.begin(), [](double part) { return std::clamp(part, 0.0, 1.0); });
-    const Triple xyz = Times(ToXyz, light);
-    const auto f = [](double t) { return t > 0.008856 ? std::cbrt(t) : 7.787 * t + 16.0 / 116; };
-    const double y = f(xyz[1]);
-    return {116 * y - 16, 500 * (f(xyz[0] / 0.9505) - y), 200 * (y - f(xyz[2] / 1.089))};
-}
-
-/// The least distance between two of the colours, for the eye that sees it least.
+/// The least distance between two of the colours in the Lab space, for the eye that sees it least.
 double Apart(const std::vector<Colour>& colours)
 {
+    const auto f = [](double t) { return t > 0.008856 ? std::cbrt(t) : 7.787 * t + 16.0 / 116; };
     double least = 1000;
     for (const Matrix& eye : Eyes) {
-        for (std::size_t i = 0; i < colours.size(); ++i) {
-            for (std::size_t j = 0; j < i; ++j) {
-                const Triple one = SeenBy(eye, colours[i]);
-                const Triple other = SeenBy(eye, colours[j]);
+        std::vector<Triple> seen;
+        for (const Colour colour : colours) {
+            const Triple light = Times(eye, Light(colour));
+            const Triple xyz =
+                Times(ToXyz, {std::clamp(light[0], 0.0, 1.0), std::clamp(light[1], 0.0, 1.0),
+                              std::clamp(light[2], 0.0, 1.0)});
+            const double y = f(xyz[1]);
+            seen.push_back(
+                {116 * y - 16, 500 * (f(xyz[0] / 0.9505) - y), 200 * (y - f(xyz[2] / 1.089))});
+            for (std::size_t i = 0; i + 1 < seen.size(); ++i) {
                 least =
-                    std::min(least, std::hypot(one[0] - other[0], one[1] - other[1], one[2] - other[2]));
+                    std::min(least, std::hypot(seen[i][0] - seen.back()[0], seen[i][1] - seen.back()[1],
+                                               seen[i][2] - seen.back()[2]));
             }
         }
     }
