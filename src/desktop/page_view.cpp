@@ -11,7 +11,7 @@ namespace
 {
 
 /// So many alphabets hold some seventy-five letters and blanks of a text.
-constexpr double AlphabetsInLine = 2.5;
+constexpr double AlphabetsInLine = 2.6;
 constexpr auto Alphabet = "abcdefghijklmnopqrstuvwxyz";
 constexpr double LeastMargin = 12;
 constexpr double PictureFineness = 2;
