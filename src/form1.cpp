@@ -83,7 +83,7 @@ void Form1::ConnectButtons()
 {
     // A release of any mouse button, wherever the pointer is, presses the button.
     const auto onPress = [](Control& button, auto action) {
-        button.OnMouseUp = [action](const MouseEvent&) { action(); };
+        button.MouseUp = [action](const MouseEvent&) { action(); };
     };
     onPress(cmdLoadGame, [this] { gameCommands.cmdLoadGame_MouseUp(); });
     onPress(cmdSaveGame, [this] { gameCommands.cmdSaveGame_MouseUp(); });

@@ -142,24 +142,24 @@ void Form6::HearSchemeGroup()
             PreviewMadeScheme();
         }
     };
-    List1.OnMouseUp = [this](const MouseEvent&) { PreviewSelectedScheme(); };
-    showsch.OnMouseUp = [this](const MouseEvent&) { PreviewMadeScheme(); };
-    repsch.OnMouseUp = [this](const MouseEvent&) { commands_.Replace(); };
-    delsch.OnMouseUp = [this](const MouseEvent&) { commands_.Delete(); };
-    addsch.OnMouseUp = [this](const MouseEvent&) { commands_.Add(); };
+    List1.MouseUp = [this](const MouseEvent&) { PreviewSelectedScheme(); };
+    showsch.MouseUp = [this](const MouseEvent&) { PreviewMadeScheme(); };
+    repsch.MouseUp = [this](const MouseEvent&) { commands_.Replace(); };
+    delsch.MouseUp = [this](const MouseEvent&) { commands_.Delete(); };
+    addsch.MouseUp = [this](const MouseEvent&) { commands_.Add(); };
 }
 
 void Form6::HearOthers()
 {
     ColPik2.SelColor = [this](Colour colour) { TakeCardColour(colour); };
     for (std::size_t option = 0; option < NumColCount; ++option) {
-        NumCol[option].OnMouseUp = [this, option](const MouseEvent&) { EditColourOf(option); };
+        NumCol[option].MouseUp = [this, option](const MouseEvent&) { EditColourOf(option); };
     }
-    List2.OnMouseUp = [this](const MouseEvent&) { ShowSelectedFont(); };
-    Check1.OnMouseUp = [this](const MouseEvent&) { SwitchSound(); };
-    cmdreset.OnMouseUp = [this](const MouseEvent&) { Reset(); };
-    command3.OnMouseUp = [this](const MouseEvent&) { Apply(); };
-    command4.OnMouseUp = [this](const MouseEvent&) { Hide(); };
+    List2.MouseUp = [this](const MouseEvent&) { ShowSelectedFont(); };
+    Check1.MouseUp = [this](const MouseEvent&) { SwitchSound(); };
+    cmdreset.MouseUp = [this](const MouseEvent&) { Reset(); };
+    command3.MouseUp = [this](const MouseEvent&) { Apply(); };
+    command4.MouseUp = [this](const MouseEvent&) { Hide(); };
 }
 
 void Form6::OnActivate()

@@ -21,7 +21,7 @@ AboutForm::AboutForm(Forms& forms, const Dress& dress)
 
     AboutText.SetBounds(30, 30, 5505, 2700);
     AboutText.SetText(Description);
-    AboutText.OnMouseDown = [this](const MouseEvent&) { Unload(); };
+    AboutText.MouseDown = [this](const MouseEvent&) { Unload(); };
     Add(AboutText);
 
     Image1.SetBounds(5616, 96, 480, 432);
@@ -37,7 +37,7 @@ AboutForm::AboutForm(Forms& forms, const Dress& dress)
     aboutok.SetCaption("OK");
     aboutok.SetFontSize(7.5);
     aboutok.SetForeColor(Black);
-    aboutok.OnMouseUp = [this](const MouseEvent&) { Hide(); };
+    aboutok.MouseUp = [this](const MouseEvent&) { Hide(); };
     Add(aboutok);
     CancelControl = &aboutok;
 }

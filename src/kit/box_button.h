@@ -8,7 +8,7 @@
 namespace tessarine
 {
 
-/// A press of the button is its OnMouseUp, with any mouse button, wherever the pointer has gone since.
+/// A press of the button is its MouseUp, with any mouse button, wherever the pointer has gone since.
 class BoxControl : public UserControl
 {
 public:

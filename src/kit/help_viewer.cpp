@@ -33,17 +33,17 @@ Form4::Form4(Forms& forms, const Dress& dress) : Form(forms, "Tessarine Help", C
     Add(WebBrowser1);
 
     // The history is of use only among the anchors of the page; a step past its end does nothing.
-    Command1.OnMouseUp = [this](const MouseEvent&) {
+    Command1.MouseUp = [this](const MouseEvent&) {
         if (ShowsAnchor()) {
             WebBrowser1.GoBack();
         }
     };
-    Command2.OnMouseUp = [this](const MouseEvent&) {
+    Command2.MouseUp = [this](const MouseEvent&) {
         if (ShowsAnchor()) {
             WebBrowser1.GoForward();
         }
     };
-    command3.OnMouseUp = [this](const MouseEvent&) { Hide(); };
+    command3.MouseUp = [this](const MouseEvent&) { Hide(); };
     WebBrowser1.Describe = [] { return std::string("Help page"); };
     CancelControl = &command3;
     FirstControl = &WebBrowser1; // the page can be scrolled at once

@@ -99,7 +99,7 @@ MsgForm::MsgForm(Forms& forms) : Form(forms, {}, {3 * ButtonSize.width, 2 * Butt
 
     for (BoxControl& button : cmd) {
         button.SetBounds(0, 0, ButtonSize.width, ButtonSize.height);
-        button.OnMouseUp = [this, &button](const MouseEvent&) {
+        button.MouseUp = [this, &button](const MouseEvent&) {
             AnswerCode = WholeAtStart(button.Tag);
             Hide();
         };

@@ -149,22 +149,22 @@ bool Control::TakesInput() const
 
 void Control::MousePressed(const MouseEvent& event)
 {
-    if (OnMouseDown) {
-        OnMouseDown(event);
+    if (MouseDown) {
+        MouseDown(event);
     }
 }
 
 void Control::MouseMoved(const MouseEvent& event)
 {
-    if (OnMouseMove) {
-        OnMouseMove(event);
+    if (MouseMove) {
+        MouseMove(event);
     }
 }
 
 void Control::MouseReleased(const MouseEvent& event)
 {
-    if (OnMouseUp) {
-        OnMouseUp(event);
+    if (MouseUp) {
+        MouseUp(event);
     }
 }
 

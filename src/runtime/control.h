@@ -113,9 +113,9 @@ public:
     /// Whether the user can reach the control now: its form takes input and it is enabled.
     bool TakesInput() const;
 
-    MouseHandler OnMouseDown;
-    MouseHandler OnMouseMove;
-    MouseHandler OnMouseUp;
+    MouseHandler MouseDown;
+    MouseHandler MouseMove;
+    MouseHandler MouseUp;
 
     /// The runtime delivers mouse events here; the position is relative to the control.
     virtual void MousePressed(const MouseEvent& event);

@@ -53,13 +53,13 @@ ScoresBox::ScoresBox(Platform& platform, const std::string& programName)
     Frame1.SetCaption(programName + " Scores");
     PlaceParts();
     Command1.SetCaption("Close");
-    Command1.OnMouseUp = [this](const MouseEvent&) {
+    Command1.MouseUp = [this](const MouseEvent&) {
         if (OnCloseButton) {
             OnCloseButton();
         }
     };
     Command2.SetCaption("Clear");
-    Command2.OnMouseUp = [this](const MouseEvent&) { AskAndClear(); };
+    Command2.MouseUp = [this](const MouseEvent&) { AskAndClear(); };
 }
 
 void ScoresBox::PlaceParts()

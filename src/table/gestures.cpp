@@ -15,11 +15,11 @@ void Gestures::Attach()
 {
     for (int index = 0; index < ItemCount; ++index) {
         Label& item = table_.cardy[At(index)];
-        item.OnMouseDown = [this, index](const MouseEvent& event) {
+        item.MouseDown = [this, index](const MouseEvent& event) {
             cardy_MouseDown(index, event.button, event.shift);
         };
-        item.OnMouseMove = [this](const MouseEvent&) { cardy_MouseMove(); };
-        item.OnMouseUp = [this, index](const MouseEvent& event) { cardy_MouseUp(index, event.button); };
+        item.MouseMove = [this](const MouseEvent&) { cardy_MouseMove(); };
+        item.MouseUp = [this, index](const MouseEvent& event) { cardy_MouseUp(index, event.button); };
     }
 }
 

@@ -42,7 +42,7 @@ public:
         label.SetBounds(300, 300, 1500, 600);
         button.SetBounds(300, 1800, 1500, 450);
         button.SetCaption("Ok");
-        button.OnMouseUp = [this](const MouseEvent&) { ++presses; };
+        button.MouseUp = [this](const MouseEvent&) { ++presses; };
         surface.Add(label);
         Add(surface);
         Add(button);
@@ -113,8 +113,8 @@ TYPED_TEST_P(PlatformContract, ModalFormsNestAndShutOthersOut)
         });
     };
     owner.Show();
-    inner.button.OnMouseUp = [&](const MouseEvent&) { inner.Unload(); };
-    outer.button.OnMouseUp = [&](const MouseEvent&) {
+    inner.button.MouseUp = [&](const MouseEvent&) { inner.Unload(); };
+    outer.button.MouseUp = [&](const MouseEvent&) {
         whenModalClick(inner);
         inner.ShowModal(nullptr);
         EXPECT_TRUE(outer.IsShown() && this->forms.Modal() == &outer);

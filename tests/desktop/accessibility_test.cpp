@@ -51,7 +51,7 @@ TEST_F(AccessibilityTest, WhatCanBeWorkedHasANameAndAnActionOrAValue)
     int presses = 0;
     button.SetBounds(3000, 0, 600, 300);
     button.SetToolTip("Undo");
-    button.OnMouseUp = [&](const MouseEvent&) { ++presses; };
+    button.MouseUp = [&](const MouseEvent&) { ++presses; };
     red.SetBounds(4000, 300, 255, 1500);
     red.SetRange(255, 0, 1, 1);
     red.SetValue(200);

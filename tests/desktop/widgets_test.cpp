@@ -31,7 +31,7 @@ TEST_F(WidgetsTest, AListIsPickedByMouseAndByKeys)
         list.Add(name);
     }
     int releases = 0;
-    list.OnMouseUp = [&](const MouseEvent&) { ++releases; };
+    list.MouseUp = [&](const MouseEvent&) { ++releases; };
     Show({&list});
     auto& view = Native<QAbstractItemView>(list);
     const QPoint lastRow =

@@ -16,7 +16,7 @@ protected:
         second.SetBounds(1500, 0, 900, 350);
         form.CancelControl = &second;
         for (BoxButton* button : {&first, &second}) {
-            button->OnMouseUp = [this, button](const MouseEvent&) {
+            button->MouseUp = [this, button](const MouseEvent&) {
                 pressed = button;
                 form.Hide();
             };
@@ -68,8 +68,8 @@ TEST_F(WindowTest, ALostReleaseDoesNotHoldTheMouseForEver)
     std::string heard;
     card.SetBounds(300, 300, 405, 375);
     other.SetBounds(1500, 300, 405, 375);
-    card.OnMouseUp = [&](const MouseEvent&) { heard += "up "; };
-    other.OnMouseDown = [&](const MouseEvent&) { heard += "other"; };
+    card.MouseUp = [&](const MouseEvent&) { heard += "up "; };
+    other.MouseDown = [&](const MouseEvent&) { heard += "other"; };
     surface.Add(card);
     surface.Add(other);
     Show({&surface});

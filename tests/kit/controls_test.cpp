@@ -80,7 +80,7 @@ TEST_F(BoxButton, CentresItsCaptionByTheHeightOfACapitalAndItsPictureAlmost)
 TEST_F(BoxButton, IsPressedByAnyMouseButtonAndActsAtTheReleaseWhereverThatIs)
 {
     std::vector<int> releasedWith;
-    button.OnMouseUp = [&](const MouseEvent& event) { releasedWith.push_back(event.button); };
+    button.MouseUp = [&](const MouseEvent& event) { releasedWith.push_back(event.button); };
     platform.Press(form, 200, 200);
     EXPECT_TRUE(button.HasBorder());
     platform.Release(form, 2000, 2000);

@@ -77,7 +77,7 @@ TEST_F(Controls, AListIsFilledWhenSomebodyAsksAndKeepsItsSelectionOnItsEntry)
     form.Add(list);
     int fills = 0;
     int releases = 0;
-    list.OnMouseUp = [&](const MouseEvent&) { ++releases; };
+    list.MouseUp = [&](const MouseEvent&) { ++releases; };
     list.FillWhenAsked([&] {
         ++fills;
         return std::vector<std::string>{"red", "green"};

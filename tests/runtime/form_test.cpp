@@ -103,9 +103,9 @@ struct Mouse : FormLife {
         form.Add(box);
         box.Add(inner);
         for (Label* card : {&lower, &upper, &inner}) {
-            card->OnMouseDown = Note('+');
-            card->OnMouseMove = Note('~');
-            card->OnMouseUp = Note('-');
+            card->MouseDown = Note('+');
+            card->MouseMove = Note('~');
+            card->MouseUp = Note('-');
         }
         form.Show();
     }
@@ -188,7 +188,7 @@ TEST_F(Mouse, InputDuringAMoveIsGoneAndTheReleaseOfAPressToo)
 
 TEST_F(Mouse, AModalFormTakesTheMouseFromTheOthers)
 {
-    lower.OnMouseDown = [&](const MouseEvent&) { other.ShowModal(&form); };
+    lower.MouseDown = [&](const MouseEvent&) { other.ShowModal(&form); };
     platform.OnNextModal([&](Form& dialog) {
         form.FeedMouseMove(At(300, 300, 0));
         form.FeedMouseDown(At(300, 300, MiddleButton));

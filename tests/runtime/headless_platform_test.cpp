@@ -45,7 +45,7 @@ TEST(Headless, AModalFormGetsItsAnswersInOrderAndNeverHangs)
     HeadlessPlatform platform;
     Forms forms{platform};
     contract::TestForm form(forms, "Question");
-    form.button.OnMouseUp = [&](const MouseEvent&) { form.Hide(); };
+    form.button.MouseUp = [&](const MouseEvent&) { form.Hide(); };
     platform.AnswerModal("Ok");
     platform.OnNextModal([&](Form&) { platform.Click(form.button, RightButton); });
     form.ShowModal(nullptr);
