@@ -151,14 +151,6 @@ void ColPik::SetSchemeColor(Colour New_SchemeColor)
     ShowColor(New_SchemeColor);
 }
 
-void ColPik::SetEnabled(bool New_Enabled)
-{
-    UserControl::SetEnabled(New_Enabled);
-    for (ScrollBar* bar : {&hsrRed, &hsrGreen, &hsrBlue}) {
-        bar->SetEnabled(New_Enabled);
-    }
-}
-
 /// Setting a bar runs BarChanged, and that this function again, before the next bar is set.
 void ColPik::ShowColor(Colour colour)
 {

@@ -26,9 +26,6 @@ public:
     /// raises SelColor before this returns.
     void SetSchemeColor(Colour New_SchemeColor);
 
-    /// The control as a whole, its scroll bars with it.
-    void SetEnabled(bool New_Enabled);
-
     /// Raised for each change of a channel and for each click. One change of colour may raise it
     /// several times, with colours on the way; the last one is the new colour.
     std::function<void(Colour)> SelColor;

@@ -1,7 +1,6 @@
 #include "appearance/options_dialog.h"
 
 #include "appearance/make_scheme.h"
-#include "appearance/readable_on.h"
 #include "appearance/scheme_file.h"
 
 #include <utility>
@@ -26,12 +25,6 @@ void PlaceButton(Container& on, BoxControl& button, const char* caption, Twips l
     Place(on, button, left, top, 1005, 375);
     button.SetBackColor(ButtonFace);
     button.SetCaption(caption);
-}
-
-void Paint(Control& control, Colour colour)
-{
-    control.SetBackColor(colour);
-    control.SetForeColor(ReadableOn(colour));
 }
 
 } // namespace
@@ -191,15 +184,12 @@ void Form6::SelectCardFont()
 
 void Form6::PaintOptions()
 {
-    SetBackColor(module_.Background());
-    Label1.SetBackColor(module_.Background());
-    for (Control* surface : std::initializer_list<Control*>{&List1, &List2, &Check1, &Frame1, &Frame3,
-                                                            &Frame5, &Frame6, &Frame7}) {
-        Paint(*surface, module_.Background());
+    for (Control* surface : std::initializer_list<Control*>{
+             this, &List1, &List2, &Label1, &Check1, &Frame1, &Frame3, &Frame5, &Frame6, &Frame7}) {
+        surface->SetBackColor(module_.Background());
     }
-    for (Control* button : std::initializer_list<Control*>{&cmdreset, &addsch, &delsch, &showsch,
-                                                           &repsch, &command3, &command4}) {
-        Paint(*button, module_.Button());
+    for (Control* button : {&cmdreset, &addsch, &delsch, &showsch, &repsch, &command3, &command4}) {
+        button->SetBackColor(module_.Button());
     }
 }
 
@@ -207,9 +197,9 @@ void Form6::ShowNumColours()
 {
     for (std::size_t suit = 0; suit < NumbersOption; ++suit) {
         NumCol[suit].SetEnabled(true);
-        Paint(NumCol[suit], module_.SuitColor[suit]);
+        NumCol[suit].SetBackColor(module_.SuitColor[suit]);
     }
-    Paint(NumCol[NumbersOption], module_.CardTextColor);
+    NumCol[NumbersOption].SetBackColor(module_.CardTextColor);
     Label1.SetForeColor(PaletteColour(0));
 }
 
@@ -233,12 +223,12 @@ void Form6::TakeCardColour(Colour colour)
 {
     for (std::size_t suit = 0; suit < NumbersOption; ++suit) {
         if (NumCol[suit].Enabled() && NumCol[suit].Value()) {
-            Paint(NumCol[suit], colour);
+            NumCol[suit].SetBackColor(colour);
             module_.SuitColor[suit] = colour;
         }
     }
     if (NumCol[NumbersOption].Enabled() && NumCol[NumbersOption].Value()) {
-        Paint(NumCol[NumbersOption], colour);
+        NumCol[NumbersOption].SetBackColor(colour);
         module_.CardTextColor = colour;
     }
 }

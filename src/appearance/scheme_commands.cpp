@@ -2,6 +2,7 @@
 
 #include "appearance/scheme_file.h"
 #include "runtime/files.h"
+#include "runtime/letters.h"
 
 namespace tessarine
 {

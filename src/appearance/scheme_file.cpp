@@ -1,6 +1,7 @@
 #include "appearance/scheme_file.h"
 
 #include "runtime/files.h"
+#include "runtime/letters.h"
 
 #include <algorithm>
 #include <array>

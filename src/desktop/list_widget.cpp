@@ -3,6 +3,7 @@
 #include "desktop/widgets.h"
 
 #include <QAbstractListModel>
+#include <QItemSelectionModel>
 #include <QKeyEvent>
 #include <QListView>
 #include <QMouseEvent>
@@ -10,6 +11,7 @@
 #include <QScrollBar>
 
 #include <optional>
+#include <utility>
 
 namespace tessarine
 {
@@ -39,10 +41,78 @@ public:
         return isText && entries_ != nullptr && row < entries_->Count() ? ToText(entries_->At(row))
                                                                         : QVariant();
     }
+    /// The list says what begins with a text that is typed.
+    QModelIndexList match(const QModelIndex& start, int /*role*/, const QVariant& text, int /*hits*/,
+                          Qt::MatchFlags /*flags*/) const override
+    {
+        const auto from = static_cast<std::size_t>(start.row());
+        const auto row = entries_->Find(ToBytes(text.toString()), from);
+        return row ? QModelIndexList{index(static_cast<int>(*row))} : QModelIndexList();
+    }
 
 private:
     const TextList* entries_ = nullptr;
     int count_ = 0;
+};
+
+/// The row that shows as chosen: the one that the list box says. What the toolkit would like to choose
+/// is noted, and nothing comes of it by itself.
+class ChosenRow final : public QItemSelectionModel
+{
+public:
+    using QItemSelectionModel::QItemSelectionModel;
+
+    void Show(const QModelIndex& row)
+    {
+        const QScopedValueRollback showing(showing_, true);
+        if (row.isValid()) {
+            QItemSelectionModel::setCurrentIndex(row, ClearAndSelect);
+        } else {
+            QItemSelectionModel::clear();
+        }
+    }
+    /// Where the toolkit has wanted to go since the last call.
+    QModelIndex TakeWish() { return std::exchange(wish_, QModelIndex()); }
+
+    void setCurrentIndex(const QModelIndex& row, SelectionFlags command) override
+    {
+        if (showing_) {
+            QItemSelectionModel::setCurrentIndex(row, command);
+        } else {
+            wish_ = row;
+        }
+    }
+    void select(const QModelIndex& row, SelectionFlags command) override
+    {
+        select(QItemSelection(row, row), command);
+    }
+    void select(const QItemSelection& rows, SelectionFlags command) override
+    {
+        if (showing_) {
+            QItemSelectionModel::select(rows, command);
+        }
+    }
+    void clear() override
+    {
+        if (showing_) {
+            QItemSelectionModel::clear();
+        }
+    }
+    void clearCurrentIndex() override
+    {
+        if (showing_) {
+            QItemSelectionModel::clearCurrentIndex();
+        }
+    }
+    void reset() override // the rows are others
+    {
+        const QScopedValueRollback showing(showing_, true);
+        QItemSelectionModel::reset();
+    }
+
+private:
+    QModelIndex wish_;
+    bool showing_ = false;
 };
 
 class ListWidget final : public QListView, public NativePeer
@@ -52,6 +122,9 @@ public:
         : QListView(&parent), NativePeer(*this, list, desk)
     {
         setModel(&entries_);
+        const QItemSelectionModel* const own = selectionModel();
+        setSelectionModel(chosen_);
+        delete own;
         setSelectionMode(SingleSelection);
         setEditTriggers(NoEditTriggers);
         setUniformItemSizes(true);
@@ -64,37 +137,34 @@ public:
 protected:
     void RefreshValue() override
     {
-        const QScopedValueRollback refreshing(refreshing_, true);
         const TextList& items = List().Items();
         if (edition_ != List().Edition()) {
+            const QScopedValueRollback refreshing(refreshing_, true);
             edition_ = List().Edition();
             entries_.Show(&items);
             top_.reset();
         }
-        const auto selected = List().Selected();
-        const QModelIndex index = selected ? entries_.index(static_cast<int>(*selected)) : QModelIndex();
-        if (currentIndex() != index) {
-            setCurrentIndex(index);
-        }
-        if (index.isValid() ? !selectionModel()->isSelected(index) : selectionModel()->hasSelection()) {
-            selectionModel()->select(index, QItemSelectionModel::ClearAndSelect);
-        }
         ShowTop();
+        // A row out of sight is scrolled to, and the control hears of it.
+        const auto selected = List().Selected();
+        chosen_->Show(selected ? entries_.index(static_cast<int>(*selected)) : QModelIndex());
     }
 
+    // The toolkit's own way with the mouse is to choose.
+    void mousePressEvent(QMouseEvent* event) override { event->accept(); }
+    void mouseMoveEvent(QMouseEvent* event) override { event->accept(); }
+    void mouseDoubleClickEvent(QMouseEvent* event) override { event->accept(); }
     void mouseReleaseEvent(QMouseEvent* event) override
     {
-        QListView::mouseReleaseEvent(event);
-        if (event->button() != Qt::LeftButton) {
+        const QPoint place = event->position().toPoint();
+        const int button = ButtonNumber(event->button());
+        if (button == 0 || !viewport()->rect().contains(place)) {
             return;
         }
-        const QPoint place = event->position().toPoint();
-        const bool inside = viewport()->rect().contains(place);
-        const QModelIndex released = inside ? indexAt(place) : currentIndex();
-        if (released.isValid()) {
-            Pick(released);
+        if (const QModelIndex row = indexAt(place); row.isValid()) {
+            Pick(row, button);
         } else {
-            UserDoes([this] { List().UserReleasesOnNothing(); });
+            UserDoes([this, button] { List().UserReleasesOnNothing(button); });
         }
     }
     void keyPressEvent(QKeyEvent* event) override
@@ -103,10 +173,18 @@ protected:
             event->ignore(); // the window's matter
             return;
         }
-        const QModelIndex before = currentIndex();
+        chosen_->TakeWish();
         QListView::keyPressEvent(event);
-        if (currentIndex().isValid() && currentIndex() != before) {
-            Pick(currentIndex());
+        const QModelIndex wish = chosen_->TakeWish();
+        if (wish.isValid() && wish != currentIndex()) {
+            Pick(wish, LeftButton);
+        }
+    }
+    void paintEvent(QPaintEvent* event) override
+    {
+        QListView::paintEvent(event);
+        if (hasFocus() && !currentIndex().isValid()) {
+            PaintFocus(*viewport()); // no row shows it
         }
     }
     void resizeEvent(QResizeEvent* event) override
@@ -121,10 +199,10 @@ protected:
 private:
     ListBox& List() const { return *static_cast<ListBox*>(TheControl()); }
 
-    void Pick(const QModelIndex& index)
+    void Pick(const QModelIndex& row, int button)
     {
-        const auto position = static_cast<std::size_t>(index.row());
-        UserDoes([this, position] { List().UserPicks(position); });
+        const auto position = static_cast<std::size_t>(row.row());
+        UserDoes([this, position, button] { List().UserPicks(position, button); });
     }
     void ShowTop()
     {
@@ -147,6 +225,7 @@ private:
     }
 
     Entries entries_;
+    ChosenRow* const chosen_ = new ChosenRow(&entries_, this);
     std::optional<int> edition_;
     std::optional<std::size_t> top_; ///< the entry scrolled to last
     bool refreshing_ = false;

@@ -2,6 +2,7 @@
 
 #include "desktop/colours.h"
 #include "desktop/pixels.h"
+#include "runtime/contrast.h"
 
 #include <QPainterPath>
 #include <QWidget>
@@ -119,7 +120,7 @@ void Painter::PaintLabel(const Label& label)
     QRect rect = RectOf(label);
     const QColor ground = ToQColor(label.BackColor());
     if (label.HasBorder()) {
-        FillFrame(rect, Border(), EdgeOf(ground));
+        FillFrame(rect, Border(), EdgeOf(label.BackColor()));
         rect.adjust(Border(), Border(), -Border(), -Border());
     }
     if (label.IsOpaque()) {
@@ -132,7 +133,7 @@ void Painter::PaintLabel(const Label& label)
 
 void Painter::PaintText(const Label& label, const QRect& inside)
 {
-    const QColor colour = ToQColor(label.ForeColor());
+    const QColor colour = ToQColor(TextColour(label.BackColor(), label.ForeColor()));
     const std::vector<std::string> lines = LinesOf(label.Caption());
     double top = 0;
     for (const std::string& line : lines) {

@@ -6,6 +6,20 @@
 namespace tessarine
 {
 
+int ButtonNumber(Qt::MouseButton button)
+{
+    switch (button) {
+    case Qt::LeftButton:
+        return LeftButton;
+    case Qt::RightButton:
+        return RightButton;
+    case Qt::MiddleButton:
+        return MiddleButton;
+    default:
+        return 0;
+    }
+}
+
 void Peer::Refresh()
 {
     if (control_ == nullptr) {
@@ -18,6 +32,9 @@ void Peer::Refresh()
     const QString tip = ToText(control_->ToolTip());
     if (widget_.toolTip() != tip) {
         widget_.setToolTip(tip);
+    }
+    if (widget_.isEnabledTo(widget_.parentWidget()) != control_->Enabled()) {
+        widget_.setEnabled(control_->Enabled());
     }
     RefreshContents();
     if (widget_.isHidden() == control_->Visible()) {

@@ -67,6 +67,9 @@ private:
     Desk& desk_;
 };
 
+/// A button of the mouse as the form runtime counts it; 0 for one that it does not know.
+int ButtonNumber(Qt::MouseButton button);
+
 /// The peer behind a widget; none for a widget that is no peer.
 Peer* PeerBehind(QObject* object);
 

@@ -2,6 +2,7 @@
 
 #include "desktop/colours.h"
 #include "desktop/painter.h"
+#include "runtime/contrast.h"
 
 #include <QFocusEvent>
 #include <QKeyEvent>
@@ -12,20 +13,6 @@ namespace tessarine
 {
 namespace
 {
-
-int ButtonNumber(Qt::MouseButton button)
-{
-    switch (button) {
-    case Qt::LeftButton:
-        return LeftButton;
-    case Qt::RightButton:
-        return RightButton;
-    case Qt::MiddleButton:
-        return MiddleButton;
-    default:
-        return 0;
-    }
-}
 
 int ShiftKeys(Qt::KeyboardModifiers modifiers)
 {
@@ -74,10 +61,10 @@ void Surface::paintEvent(QPaintEvent* event)
     painter.PaintDrawing(*user);
     painter.PaintChildren(*user, std::nullopt);
     if (user->HasBorder()) {
-        painter.PaintBorder(EdgeOf(ToQColor(user->BackColor())));
+        painter.PaintBorder(EdgeOf(user->BackColor()));
     }
     if (focusByKeyboard_ && hasFocus()) {
-        painter.PaintFocus(ReadableOn(ToQColor(user->BackColor()), ToQColor(user->ForeColor())));
+        painter.PaintFocus(ToQColor(TextColour(user->BackColor(), user->ForeColor())));
     }
 }
 

@@ -1,17 +1,14 @@
 #include "desktop/text.h"
 
-#include <QByteArrayView>
-#include <QStringDecoder>
+#include "runtime/letters.h"
 
 namespace tessarine
 {
 
 QString ToText(std::string_view bytes)
 {
-    const QByteArrayView view(bytes.data(), static_cast<qsizetype>(bytes.size()));
-    QStringDecoder decoder(QStringDecoder::Utf8, QStringConverter::Flag::Stateless);
-    QString text = decoder(view);
-    return decoder.hasError() ? QString::fromLatin1(view) : text;
+    const std::u32string letters = Letters(bytes);
+    return QString::fromUcs4(letters.data(), static_cast<qsizetype>(letters.size()));
 }
 
 std::string ToBytes(const QString& text)

@@ -4,6 +4,7 @@
 #include "desktop/painter.h"
 #include "desktop/surface.h"
 #include "desktop/text.h"
+#include "runtime/contrast.h"
 
 #include <QCheckBox>
 #include <QGroupBox>
@@ -16,6 +17,7 @@
 #include <QSignalBlocker>
 #include <QStyle>
 #include <QStyleFactory>
+#include <QStyleOptionButton>
 
 #include <algorithm>
 #include <utility>
@@ -25,13 +27,21 @@ namespace tessarine
 namespace
 {
 
-/// Of the chosen row of a list, and round what has the keyboard: white reads well on it.
+/// Of the chosen row of a list: white reads well on it.
 constexpr QColor Chosen(31, 99, 152);
 
 /// Text on a button is plain text: no letter of it is a shortcut.
 QString Caption(const std::string& caption)
 {
     return ToText(caption).replace(QLatin1Char('&'), QLatin1String("&&"));
+}
+
+/// The style that draws in the very colours that it is given.
+void WearPlainStyle(QWidget& widget)
+{
+    QStyle* const plain = QStyleFactory::create(QStringLiteral("windows"));
+    plain->setParent(&widget);
+    widget.setStyle(plain);
 }
 
 class FrameWidget final : public QGroupBox, public NativePeer
@@ -41,10 +51,7 @@ public:
         : QGroupBox(&parent), NativePeer(*this, frame, desk)
     {
         setAutoFillBackground(true);
-        // This one writes the title into the line, so that all of the frame is room for controls.
-        QStyle* const lined = QStyleFactory::create(QStringLiteral("windows"));
-        lined->setParent(this);
-        setStyle(lined);
+        WearPlainStyle(*this); // it writes the title into the line: all of the frame is for controls
     }
 
 protected:
@@ -65,6 +72,15 @@ protected:
     }
 };
 
+/// The number of another mouse button than the left one, released over the widget; 0 if it is not
+/// that. The toolkit hears the left one alone.
+int OtherButtonOver(const QWidget& widget, const QMouseEvent& event)
+{
+    const bool isOther = event.button() != Qt::LeftButton;
+    return isOther && widget.rect().contains(event.position().toPoint()) ? ButtonNumber(event.button())
+                                                                         : 0;
+}
+
 class PushButtonWidget final : public QPushButton, public NativePeer
 {
 public:
@@ -72,6 +88,7 @@ public:
         : QPushButton(&parent), NativePeer(*this, button, desk)
     {
         setAutoDefault(true); // Enter presses it when it has the keyboard
+        WearPlainStyle(*this);
         QObject::connect(this, &QPushButton::clicked, this, [this] { Released(LeftButton); });
     }
 
@@ -90,11 +107,8 @@ protected:
     }
     void mouseReleaseEvent(QMouseEvent* event) override
     {
-        const bool over = rect().contains(event->position().toPoint());
-        if (event->button() == Qt::RightButton && over) {
-            Released(RightButton);
-        } else if (event->button() == Qt::MiddleButton && over) {
-            Released(MiddleButton);
+        if (const int button = OtherButtonOver(*this, *event); button != 0) {
+            Released(button);
         } else {
             QPushButton::mouseReleaseEvent(event);
         }
@@ -109,7 +123,8 @@ private:
 
 /// An option button or a check box. The widget never turns itself: the control does, and the widget
 /// follows.
-template <class Button, class Of> class TurnedByControl final : public Button, public NativePeer
+template <class Button, class Of, void (Of::*Work)(int)>
+class TurnedByControl final : public Button, public NativePeer
 {
 public:
     TurnedByControl(Of& control, QWidget& parent, Desk& desk)
@@ -117,9 +132,7 @@ public:
     {
         this->setAutoFillBackground(true);
         this->setAutoExclusive(false); // groups are the form's matter
-        QObject::connect(this, &QAbstractButton::clicked, this, [this] {
-            UserDoes([this] { static_cast<Of*>(TheControl())->UserActivates(); });
-        });
+        QObject::connect(this, &QAbstractButton::clicked, this, [this] { Released(LeftButton); });
     }
 
 protected:
@@ -139,8 +152,34 @@ protected:
         palette.setColor(QPalette::Base, Qt::white);
         palette.setColor(QPalette::Text, Qt::black);
     }
+    void initStyleOption(QStyleOptionButton* option) const override
+    {
+        Button::initStyleOption(option);
+        option->state &= ~QStyle::State_HasFocus; // its wash would lie over the text
+    }
+    void paintEvent(QPaintEvent* event) override
+    {
+        Button::paintEvent(event);
+        if (this->hasFocus()) {
+            PaintFocus(*this);
+        }
+    }
+    void mouseReleaseEvent(QMouseEvent* event) override
+    {
+        if (const int button = OtherButtonOver(*this, *event); button != 0) {
+            Released(button);
+        } else {
+            Button::mouseReleaseEvent(event);
+        }
+    }
     void nextCheckState() override {}
     bool hitButton(const QPoint& place) const override { return this->rect().contains(place); }
+
+private:
+    void Released(int button)
+    {
+        UserDoes([this, button] { (static_cast<Of*>(TheControl())->*Work)(button); });
+    }
 };
 
 class ScrollBarWidget final : public QScrollBar, public NativePeer
@@ -171,10 +210,8 @@ protected:
     void paintEvent(QPaintEvent* event) override
     {
         QScrollBar::paintEvent(event);
-        if (hasFocus()) {
-            QPainter painter(this);
-            painter.setPen(Chosen);
-            painter.drawRect(rect().adjusted(0, 0, -1, -1));
+        if (this->hasFocus()) {
+            PaintFocus(*this);
         }
     }
 
@@ -194,6 +231,13 @@ template <class Of> Of& As(Control& control)
 
 } // namespace
 
+void PaintFocus(QWidget& widget)
+{
+    QPainter painter(&widget);
+    painter.setPen(widget.palette().color(QPalette::WindowText));
+    painter.drawRect(widget.rect().adjusted(0, 0, -1, -1));
+}
+
 void NativePeer::RefreshContents()
 {
     const Control& control = *TheControl();
@@ -202,7 +246,7 @@ void NativePeer::RefreshContents()
         widget.setFont(font);
     }
     const QColor ground = ToQColor(control.BackColor());
-    const QColor text = ReadableOn(ground, ToQColor(control.ForeColor()));
+    const QColor text = ToQColor(TextColour(control.BackColor(), control.ForeColor()));
     QPalette palette(ground, ground);
     for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
         palette.setColor(role, text);
@@ -213,9 +257,6 @@ void NativePeer::RefreshContents()
     Mix(palette);
     if (widget.palette() != palette) {
         widget.setPalette(palette);
-    }
-    if (widget.isEnabled() != control.Enabled()) {
-        widget.setEnabled(control.Enabled());
     }
     if (const QString name = ToText(control.AccessibleName()); widget.accessibleName() != name) {
         widget.setAccessibleName(name);
@@ -236,10 +277,12 @@ Peer* MakePeer(Control& control, QWidget& parent, Desk& desk)
         made = new PushButtonWidget(As<PushButton>(control), parent, desk);
         break;
     case ControlKind::OptionButton:
-        made = new TurnedByControl<QRadioButton, OptionButton>(As<OptionButton>(control), parent, desk);
+        made = new TurnedByControl<QRadioButton, OptionButton, &OptionButton::UserPicks>(
+            As<OptionButton>(control), parent, desk);
         break;
     case ControlKind::CheckBox:
-        made = new TurnedByControl<QCheckBox, CheckBox>(As<CheckBox>(control), parent, desk);
+        made = new TurnedByControl<QCheckBox, CheckBox, &CheckBox::UserToggles>(As<CheckBox>(control),
+                                                                                parent, desk);
         break;
     case ControlKind::ScrollBar:
         made = new ScrollBarWidget(As<ScrollBar>(control), parent, desk);

@@ -117,10 +117,10 @@ void HeadlessPlatform::Click(Control& control, int button)
         static_cast<PushButton&>(control).UserReleases(button);
         break;
     case ControlKind::OptionButton:
-        static_cast<OptionButton&>(control).UserPicks();
+        static_cast<OptionButton&>(control).UserPicks(button);
         break;
     case ControlKind::CheckBox:
-        static_cast<CheckBox&>(control).UserToggles();
+        static_cast<CheckBox&>(control).UserToggles(button);
         break;
     case ControlKind::TextBox:
         static_cast<TextBox&>(control).UserPresses(button);

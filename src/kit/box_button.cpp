@@ -1,5 +1,6 @@
 #include "kit/box_button.h"
 
+#include "runtime/contrast.h"
 #include "runtime/form.h"
 #include "runtime/platform.h"
 
@@ -88,7 +89,7 @@ void BoxControl::DrawCaption(Canvas& canvas) const
     const Whole width = RoundHalfEven(platform.TextSize(Font(), caption_).width);
     const Whole height = RoundHalfEven(platform.TextSize(Font(), "W").height);
     canvas.Print({(Width() - width) / 2, (InnerSide(*this, Height()) - height) / 2}, caption_, Font(),
-                 ForeColor());
+                 TextColour(BackColor(), ForeColor()));
 }
 
 } // namespace tessarine

@@ -2,6 +2,7 @@
 
 #include "runtime/files.h"
 #include "runtime/form.h"
+#include "runtime/letters.h"
 
 #include <algorithm>
 

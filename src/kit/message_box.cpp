@@ -1,6 +1,7 @@
 #include "kit/message_box.h"
 
 #include "kit/icons.h"
+#include "runtime/letters.h"
 #include "runtime/platform.h"
 
 #include <algorithm>

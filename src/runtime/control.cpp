@@ -143,8 +143,13 @@ Form* Control::OwnerForm() const
 
 bool Control::TakesInput() const
 {
+    for (const Control* control = this; control != nullptr; control = control->parent_) {
+        if (!control->enabled_) {
+            return false;
+        }
+    }
     const Form* form = OwnerForm();
-    return enabled_ && form != nullptr && form->TakesInput();
+    return form != nullptr && form->TakesInput();
 }
 
 void Control::MousePressed(const MouseEvent& event)

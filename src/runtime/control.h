@@ -75,7 +75,7 @@ public:
     bool Visible() const { return visible_; }
     void SetVisible(bool visible) { Assign(visible_, visible); }
     bool Enabled() const { return enabled_; }
-    /// A control that is not enabled gets no mouse events.
+    /// A control that is not enabled takes no input, nor does what stands on it.
     void SetEnabled(bool enabled) { Assign(enabled_, enabled); }
 
     Colour BackColor() const { return backColor_; }
@@ -110,7 +110,8 @@ public:
     Container* Parent() const { return parent_; }
     /// The form that the control stands on, or is; none before its container is on one.
     Form* OwnerForm() const;
-    /// Whether the user can reach the control now: its form takes input and it is enabled.
+    /// Whether the user can reach the control now: its form takes input, and it is enabled with all
+    /// that it stands on.
     bool TakesInput() const;
 
     MouseHandler MouseDown;

@@ -82,19 +82,19 @@ void ListBox::Select(std::optional<std::size_t> position)
     Assign(selected_, position);
 }
 
-void ListBox::UserPicks(std::size_t position)
+void ListBox::UserPicks(std::size_t position, int button)
 {
     if (!TakesInput() || position >= Items().Count()) {
         return;
     }
     Select(position);
-    MouseReleased({LeftButton, 0, 0, 0});
+    MouseReleased({button, 0, 0, 0});
 }
 
-void ListBox::UserReleasesOnNothing()
+void ListBox::UserReleasesOnNothing(int button)
 {
     if (TakesInput()) {
-        MouseReleased({LeftButton, 0, 0, 0});
+        MouseReleased({button, 0, 0, 0});
     }
 }
 
@@ -133,19 +133,19 @@ void OptionButton::SetValue(bool value)
     }
 }
 
-void OptionButton::UserPicks()
+void OptionButton::UserPicks(int button)
 {
     if (TakesInput()) {
         SetValue(true);
-        MouseReleased({LeftButton, 0, 0, 0});
+        MouseReleased({button, 0, 0, 0});
     }
 }
 
-void CheckBox::UserToggles()
+void CheckBox::UserToggles(int button)
 {
     if (TakesInput()) {
         SetValue(!value_);
-        MouseReleased({LeftButton, 0, 0, 0});
+        MouseReleased({button, 0, 0, 0});
     }
 }
 

@@ -151,10 +151,10 @@ public:
     /// Counts the changes of the entries, so that a platform knows when to fill its widget anew.
     int Edition() const { return edition_; }
 
-    /// The user picked an entry, with the mouse or the keyboard.
-    void UserPicks(std::size_t position);
-    /// The user released the mouse over no entry.
-    void UserReleasesOnNothing();
+    /// The user picked an entry: released any mouse button over it, or went there by keyboard.
+    void UserPicks(std::size_t position, int button = LeftButton);
+    /// The user released a mouse button over no entry.
+    void UserReleasesOnNothing(int button = LeftButton);
 
 private:
     void ItemsChanged();
@@ -211,7 +211,8 @@ public:
     bool Value() const { return value_; }
     /// Selecting it clears the others of its container.
     void SetValue(bool value);
-    void UserPicks();
+    /// A release of any mouse button on it, or its key.
+    void UserPicks(int button = LeftButton);
     void UserActivates() override { UserPicks(); }
 
 protected:
@@ -232,7 +233,8 @@ public:
     void SetCaption(const std::string& caption) { Assign(caption_, caption); }
     bool Value() const { return value_; }
     void SetValue(bool value) { Assign(value_, value); }
-    void UserToggles();
+    /// A release of any mouse button on it, or its key.
+    void UserToggles(int button = LeftButton);
     void UserActivates() override { UserToggles(); }
 
 protected:

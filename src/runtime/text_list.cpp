@@ -1,5 +1,7 @@
 #include "runtime/text_list.h"
 
+#include "runtime/letters.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -8,23 +10,10 @@ namespace tessarine
 namespace
 {
 
-unsigned char Folded(char c)
-{
-    return static_cast<unsigned char>(c >= 'A' && c <= 'Z' ? c - 'A' + 'a' : c);
-}
-
-bool FoldedEqual(char a, char b)
-{
-    return Folded(a) == Folded(b);
-}
-
 bool ComesBefore(const std::string& a, const std::string& b)
 {
-    const auto folded = [](char x, char y) { return Folded(x) < Folded(y); };
-    if (std::ranges::lexicographical_compare(a, b, folded)) {
-        return true;
-    }
-    return !std::ranges::lexicographical_compare(b, a, folded) && a < b;
+    const auto byLetters = Folded(a) <=> Folded(b);
+    return byLetters == 0 ? a < b : byLetters < 0;
 }
 
 } // namespace
@@ -71,17 +60,16 @@ void TextList::RemoveAt(std::size_t position)
     entries_.erase(entries_.begin() + static_cast<std::ptrdiff_t>(position));
 }
 
-std::optional<std::size_t> TextList::Find(std::string_view text) const
+std::optional<std::size_t> TextList::Find(std::string_view text, std::size_t from) const
 {
-    const auto begins = [text](const std::string& entry) {
-        return entry.size() >= text.size() &&
-               std::equal(text.begin(), text.end(), entry.begin(), FoldedEqual);
-    };
-    const auto found = std::ranges::find_if(entries_, begins);
-    if (found == entries_.end()) {
-        return std::nullopt;
+    const std::u32string wanted = Folded(text);
+    for (std::size_t step = 0; step < entries_.size(); ++step) {
+        const std::size_t position = (from + step) % entries_.size();
+        if (Folded(entries_[position]).starts_with(wanted)) {
+            return position;
+        }
     }
-    return static_cast<std::size_t>(found - entries_.begin());
+    return std::nullopt;
 }
 
 } // namespace tessarine

@@ -39,8 +39,9 @@ public:
     void Clear() { entries_.clear(); }
 
     /// Position of the first entry that begins with the text, letter case ignored, over the whole
-    /// list; nothing if there is none. Every entry begins with the empty text.
-    std::optional<std::size_t> Find(std::string_view text) const;
+    /// list, beginning at `from` and going round; nothing if there is none. Every entry begins with
+    /// the empty text.
+    std::optional<std::size_t> Find(std::string_view text, std::size_t from = 0) const;
 
 private:
     Order order_;

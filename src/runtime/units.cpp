@@ -88,15 +88,6 @@ std::string TwoDigits(int value)
     return text.size() < 2 ? '0' + text : text;
 }
 
-std::string LowerCase(std::string_view text)
-{
-    std::string lower(text);
-    std::ranges::transform(lower, lower.begin(), [](char c) {
-        return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-    });
-    return lower;
-}
-
 std::string TrimBlanks(std::string_view text)
 {
     const auto first = text.find_first_not_of(' ');

@@ -91,7 +91,7 @@ Whole WholeAtStart(std::string_view text);
 /// Two decimal digits with a leading zero: "07".
 std::string TwoDigits(int value);
 
-std::string LowerCase(std::string_view text);  ///< ASCII letters only
-std::string TrimBlanks(std::string_view text); ///< blanks off both ends
+/// Blanks off both ends.
+std::string TrimBlanks(std::string_view text);
 
 } // namespace tessarine

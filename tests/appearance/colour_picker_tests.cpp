@@ -108,7 +108,7 @@ TEST_F(ColourPicker, OnlyAReleaseOnTheSurfaceItselfCounts)
     for (const Point end : {label, Point{1200, 500}, Point{-20, 100}, Point{100, 1700}}) {
         Drag({100, 100}, end);
     }
-    picker.SetEnabled(false);
+    static_cast<Control&>(picker).SetEnabled(false);
     Drag({100, 100}, {100, 100});
     picker.hsrRed.UserSets(12);
     EXPECT_TRUE(events.empty());

@@ -1,6 +1,5 @@
 // The colours that come with the program: schemes fit to be looked at, and cards that every eye can tell
 // apart.
-#include "appearance/readable_on.h"
 #include "appearance/scheme_file.h"
 #include "data/read_file.h"
 
@@ -148,13 +147,6 @@ TEST(SchemesFile, IsToTheByteWhatTheProgramWritesAndKeepsEverythingReadable)
         }
     }
     EXPECT_EQ(text, written);
-}
-
-TEST(ReadableOn, StandsOutFromEveryGrey)
-{
-    for (Colour grey = Black; grey <= White; grey += Rgb(1, 1, 1)) {
-        EXPECT_GE(Contrast(ReadableOn(grey), grey), 4.5) << grey;
-    }
 }
 
 } // namespace

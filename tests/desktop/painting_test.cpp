@@ -1,9 +1,12 @@
+#include "kit/box_button.h"
 #include "stage.h"
+#include "support/seen_contrast.h"
 
 #include <QImage>
 
 #include <array>
 #include <deque>
+#include <map>
 
 namespace tessarine
 {
@@ -153,6 +156,61 @@ TEST_F(PaintingTest, AClickFindsTheColourThatADrawingShows)
             return palette.Drawing().ColourAt({at.x() * pixel, at.y() * pixel}, TwipsPerPixel);
         });
         EXPECT_TRUE(wrong.isEmpty()) << wrong.x() << ", " << wrong.y() << " at " << scale;
+    }
+}
+
+/// The contrast of the colour that stands out most to the one that there is most of, near the middle.
+double ContrastOfText(const QImage& image)
+{
+    const auto seen = [](QRgb pixel) { return SeenColour{qRed(pixel), qGreen(pixel), qBlue(pixel)}; };
+    std::map<QRgb, int> counts;
+    for (int y = 5; y < image.height() - 5; ++y) {
+        for (int x = 24; x < image.width() - 5; ++x) { // beside a mark that can be set
+            ++counts[image.pixel(x, y)];
+        }
+    }
+    const auto ground =
+        std::ranges::max_element(counts, {}, [](const auto& each) { return each.second; });
+    double best = 1;
+    for (const auto& [pixel, count] : counts) {
+        best = std::max(best, SeenContrast(seen(pixel), seen(ground->first)));
+    }
+    return best;
+}
+
+TEST_F(PaintingTest, TextOfNoFixedColourCanBeReadOnEveryGround)
+{
+    BoxControl box;
+    PushButton button;
+    OptionButton option;
+    CheckBox check;
+    Label label;
+    const auto furnish = [](auto& control) { control.SetCaption("HHHHHH"); };
+    furnish(box), furnish(button), furnish(option), furnish(check), furnish(label);
+    Twips top = 0;
+    const std::array<Control*, 5> controls = {&box, &button, &option, &check, &label};
+    for (Control* control : controls) {
+        control->SetBounds(150, top, 1800, 600);
+        control->SetFont({.name = "Arial", .size = 16, .bold = true});
+        top += 600;
+    }
+    Show({&box, &button, &option, &check, &surface});
+    surface.Add(label);
+    surface.BringToFront();
+    label.SetBounds(0, 0, surface.Width(), surface.Height());
+    // Between the two that stand out best black and white are nearly even.
+    for (const Colour ground : {Black, White, Rgb(117, 117, 117), Rgb(118, 118, 118), Rgb(119, 119, 119),
+                                Rgb(255, 0, 0), Rgb(0, 128, 0), Rgb(0, 0, 255), Rgb(200, 80, 0),
+                                Rgb(0, 110, 200), Rgb(150, 60, 220), Rgb(90, 130, 20)}) {
+        for (Control* control : controls) {
+            control->SetBackColor(ground);
+        }
+        Events();
+        for (const Control* control : controls) {
+            const Control& shown = control == &label ? surface : *control;
+            EXPECT_GE(ContrastOfText(Shown(shown, 1)), ReadableContrast)
+                << static_cast<int>(control->Kind()) << " on " << ground;
+        }
     }
 }
 

@@ -32,7 +32,10 @@ public:
     void Press(const Control& control, QPoint at) { Send(QTest::MousePress, control, at); }
     void Move(const Control& control, QPoint at) { Send(QTest::MouseMove, control, at); }
     void Release(const Control& control, QPoint at) { Send(QTest::MouseRelease, control, at); }
-    void Click(const Control& control, QPoint at) { Send(QTest::MouseClick, control, at); }
+    void Click(const Control& control, QPoint at, Qt::MouseButton button = Qt::LeftButton)
+    {
+        Send(QTest::MouseClick, control, at, button);
+    }
     void Click(const Control& control)
     {
         Click(control, ToPixelPoint({control.Width() / 2, control.Height() / 2}));
@@ -44,11 +47,11 @@ private:
     {
         return {NearestPixel(point.x * PixelsPerTwip), NearestPixel(point.y * PixelsPerTwip)};
     }
-    void Send(QTest::MouseAction action, const Control& control, QPoint at)
+    void Send(QTest::MouseAction action, const Control& control, QPoint at,
+              Qt::MouseButton button = Qt::LeftButton)
     {
-        const Qt::MouseButton button = action == QTest::MouseMove ? Qt::NoButton : Qt::LeftButton;
-        QTest::mouseEvent(action, &WindowOf(control), button, {},
-                          ToPixelPoint(control.PlaceOnForm()) + at);
+        QTest::mouseEvent(action, &WindowOf(control), action == QTest::MouseMove ? Qt::NoButton : button,
+                          {}, ToPixelPoint(control.PlaceOnForm()) + at);
     }
     QWindow& WindowOf(const Control& control)
     {

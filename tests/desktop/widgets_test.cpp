@@ -1,3 +1,5 @@
+#include "desktop/text.h"
+#include "runtime/letters.h"
 #include "stage.h"
 
 #include <QAbstractItemView>
@@ -23,41 +25,58 @@ protected:
     }
 };
 
-TEST_F(WidgetsTest, AListIsPickedByMouseAndByKeys)
+TEST_F(WidgetsTest, AListShowsAsChosenWhatItsControlSaysAndNothingElse)
 {
     ListBox list(TextList::Order::Sorted);
     list.SetBounds(150, 150, 1800, 2400);
-    for (const char* name : {"sand", "clay", "mist"}) {
-        list.Add(name);
-    }
-    int releases = 0;
-    list.MouseUp = [&](const MouseEvent&) { ++releases; };
-    Show({&list});
+    list.FillWhenAsked([] { return std::vector<std::string>{"sand", "clay", "\u00C9TE", "mist"}; });
+    std::string told;
+    list.MouseUp = [&](const MouseEvent& event) {
+        told += list.SelectedText() + std::to_string(event.button) + ' ';
+    };
+    Show({&list}); // it has the keyboard at once
     auto& view = Native<QAbstractItemView>(list);
-    const QPoint lastRow =
-        view.viewport()->mapTo(&view, view.visualRect(view.model()->index(2, 0)).center());
-
-    hand.Click(list, lastRow);
-    EXPECT_EQ(list.SelectedText(), "sand");
-    hand.Type(list, Qt::Key_Up);
-    EXPECT_EQ(list.SelectedText(), "mist");
-    hand.Click(list, lastRow + QPoint(0, 60)); // on nothing
-    EXPECT_EQ(list.SelectedText(), "mist");
-    EXPECT_EQ(view.currentIndex().row(), 1) << "the widget follows the control";
-    EXPECT_EQ(releases, 3);
+    const auto after = [&](auto action) { // what the control says, and what can be seen
+        told.clear();
+        action();
+        const QModelIndexList chosen = view.selectionModel()->selectedIndexes();
+        EXPECT_EQ(list.SelectedText(), chosen.empty() ? "" : ToBytes(chosen.front().data().toString()));
+        EXPECT_EQ(view.currentIndex(), chosen.value(0));
+        return told;
+    };
+    const auto row = [&](int number) {
+        return view.viewport()->mapTo(&view, view.visualRect(view.model()->index(number, 0)).center());
+    };
+    const auto click = [&](QPoint at, Qt::MouseButton button) {
+        return after([&] { hand.Click(list, at, button); });
+    };
+    const auto type = [&](Qt::Key key) { return after([&] { hand.Type(list, key); }); };
+    EXPECT_EQ(after([] {}), "");
+    EXPECT_EQ(click(row(3) + QPoint(0, 60), Qt::RightButton), "2 ") << "on nothing";
+    EXPECT_EQ(after([&] { hand.Press(list, row(2)); }), "");
+    EXPECT_EQ(after([&] { hand.Release(list, {-20, 20}); }), "") << "not over the list";
+    EXPECT_EQ(type(Qt::Key_Down), "clay1 ") << "the first row";
+    EXPECT_EQ(click(row(1), Qt::RightButton), "mist2 ");
+    EXPECT_EQ(click(row(2), Qt::MiddleButton), "sand4 ");
+    EXPECT_EQ(type(Qt::Key_Eacute), "\u00C9TE1 ");
+    EXPECT_EQ(type(Qt::Key_Down), "") << "it stands on the last row";
+    {
+        const InputHold hold(form);
+        EXPECT_EQ(type(Qt::Key_Home) + click(row(1), Qt::LeftButton), "");
+    }
 
     // What the program does comes to the widget and not back.
-    list.Clear();
     list.FillWhenAsked([] { return std::vector<std::string>(200, "font"); });
     list.SetTopIndex(120);
     Events();
-    EXPECT_FALSE(view.currentIndex().isValid());
+    EXPECT_EQ(after([] {}), "");
     EXPECT_EQ(view.indexAt({5, 3}).row(), 120);
     view.verticalScrollBar()->setValue(10);
     EXPECT_EQ(list.TopIndex(), 10U);
     Events();
     EXPECT_EQ(view.indexAt({5, 3}).row(), 10) << "and it stays there";
-    EXPECT_EQ(releases, 3);
+    type(Qt::Key_End);
+    EXPECT_EQ(static_cast<int>(list.TopIndex()), view.indexAt({5, 3}).row());
 }
 
 TEST_F(WidgetsTest, AScrollBarMayHaveItsLargerEndAtTheTop)
@@ -100,16 +119,35 @@ TEST_F(WidgetsTest, OptionsTurnOnlyAsTheirControlsDo)
         hand.Click(*each); // a second time, too: it stays
     }
     EXPECT_TRUE(!one.Value() && two.Value());
+    hand.Click(one, {20, 8}, Qt::RightButton);
+    EXPECT_TRUE(one.Value());
+    hand.Click(two, {20, 8}, Qt::MiddleButton);
     {
         const InputHold hold(form);
         hand.Click(one);
     }
     EXPECT_TRUE(second.isChecked() && !first.isChecked()) << "put back";
     one.SetValue(true);
-    one.SetBackColor(Rgb(0, 0, 128)); // black on this could not be read
     Events();
     EXPECT_TRUE(first.isChecked() && !second.isChecked());
-    EXPECT_EQ(first.palette().color(QPalette::WindowText), QColor(Qt::white));
+}
+
+TEST_F(WidgetsTest, CaseIsFoldedAsTheToolkitFoldsIt)
+{
+    for (char32_t letter = 1; letter < 0x2000; ++letter) {
+        const QString text = QString::fromUcs4(&letter, 1);
+        switch (QChar::script(letter)) {
+        case QChar::Script_Latin:
+        case QChar::Script_Greek:
+        case QChar::Script_Cyrillic:
+        case QChar::Script_Armenian:
+            EXPECT_EQ(LowerCase(ToBytes(text)), ToBytes(text.toLower())) << static_cast<int>(letter);
+            EXPECT_EQ(Folded(ToBytes(text)), Folded(ToBytes(text.toCaseFolded())));
+            break;
+        default:
+            break;
+        }
+    }
 }
 
 TEST_F(WidgetsTest, APageIsLoadedAnewAndItsLinksGoThroughTheHistory)

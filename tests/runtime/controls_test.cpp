@@ -71,6 +71,21 @@ TEST_F(Controls, AChangeHandlerRunsInsideTheStatementThatChangesTheValue)
     EXPECT_EQ(record, " 100, 255");
 }
 
+TEST_F(Controls, WhatStandsOnAControlThatIsNotEnabledTakesNoInput)
+{
+    Frame frame;
+    CheckBox box;
+    form.Add(frame);
+    frame.Add(box);
+    form.Show();
+    Control& anyControl = frame;
+    for (const bool enabled : {false, true}) {
+        anyControl.SetEnabled(enabled);
+        box.UserToggles();
+        EXPECT_EQ(box.Value(), enabled);
+    }
+}
+
 TEST_F(Controls, AListIsFilledWhenSomebodyAsksAndKeepsItsSelectionOnItsEntry)
 {
     ListBox list(TextList::Order::Sorted);

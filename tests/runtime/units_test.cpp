@@ -1,6 +1,9 @@
 #include "runtime/canvas.h"
+#include "runtime/contrast.h"
+#include "runtime/letters.h"
 #include "runtime/text_list.h"
 #include "runtime/units.h"
+#include "support/seen_contrast.h"
 
 #include <gtest/gtest.h>
 
@@ -54,16 +57,42 @@ TEST(Units, TheNumberAtTheStartOfAText)
 TEST(TextList, ASortedListOrdersByLettersThenByCodeAndFindsBeginnings)
 {
     TextList list(TextList::Order::Sorted);
-    for (const char* text : {"blue", "Blue", "apple", "Cyan", "07", "...", "70"}) {
+    for (const char* text : {"blue", "Blue", "cyan", "\u00C9t\u00E9", "07", "...", "70"}) {
         list.Add(text);
     }
-    list.AddAll({"BLUE", "06"});
-    const std::vector<std::string> expected = {"...",  "06",   "07",   "70",  "apple",
-                                               "BLUE", "Blue", "blue", "Cyan"};
+    list.AddAll({"BLUE", "\xE9TE", "06"}); // its accent is no UTF-8
+    const std::vector<std::string> expected = {"...",  "06",   "07",   "70",     "BLUE",
+                                               "Blue", "blue", "cyan", "\xE9TE", "\u00C9t\u00E9"};
     EXPECT_EQ(std::vector<std::string>(list.begin(), list.end()), expected);
-    EXPECT_EQ(list.Add("Azure"), 5U);
-    EXPECT_EQ(list.Find("bLU"), 6U);
+    EXPECT_EQ(list.Add("Azure"), 4U);
+    EXPECT_EQ(list.Find("bLU"), 5U);
+    EXPECT_EQ(list.Find("bLU", 8), 5U) << "once round";
+    EXPECT_EQ(list.Find("\u00E9T"), 9U);
+    EXPECT_EQ(list.Find("\xC9T\xC9"), 10U);
     EXPECT_EQ(list.Find("blues"), std::nullopt);
+}
+
+TEST(Letters, AreLoweredInTheEncodingThatTheTextHas)
+{
+    EXPECT_EQ(LowerCase("GR\u00DCNE STRA\u1E9EE \u03A3\u0416 \u0130\u20AC"),
+              "gr\u00FCne stra\u00DFe \u03C3\u0436 i\u0307\u20AC");
+    EXPECT_EQ(LowerCase("GR\xDCN \xD7\x9F\xFF"), "gr\xFCn \xD7\x9F\xFF");
+    EXPECT_EQ(Folded("STRASSE"), Folded("stra\xDF"
+                                        "e"));
+    for (const std::string noLetter :
+         {"\xC1\xA1", "\xED\xA0\x80", "\xF4\x90\x80\x80", "\xE2\x82", "\xF8"}) {
+        EXPECT_EQ(Letters(noLetter).size(), noLetter.size()) << "a letter for each byte";
+    }
+}
+
+TEST(Contrast, TextCanBeReadOnEveryGround)
+{
+    for (int ground = Black; ground <= White; ground += 1021) {
+        EXPECT_GE(SeenContrast(Seen(TextColour(ground, ButtonText)), Seen(ground)), ReadableContrast)
+            << ground;
+    }
+    EXPECT_EQ(TextColour(Black, Rgb(28, 28, 28)), Rgb(28, 28, 28)) << "a colour that is meant";
+    EXPECT_EQ(TextColour(ButtonFace, WindowText), Black);
 }
 
 TEST(Canvas, ThePixelShowsWhatWasDrawnOnItLast)
