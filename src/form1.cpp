@@ -122,7 +122,7 @@ void Form1::Form_Load()
     table.CreateCards();
     deal.NewDeal();
     TakePlacesOfStacks();
-    scaling.ScaleTable(shared.CardScale);
+    scaling.ScaleTable(scaling.FirstFactor(shared.CardScale));
     ring.NextStockCard();
     gameFile.SaveCardOrder(shared.AppDir + "tempgame.txt");
 }

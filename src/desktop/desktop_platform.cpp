@@ -10,6 +10,7 @@
 #include <QCursor>
 #include <QDateTime>
 #include <QLocale>
+#include <QScreen>
 #include <QTimerEvent>
 
 #include <algorithm>
@@ -109,6 +110,13 @@ Size DesktopPlatform::FitWindow(Form& form, Size clientArea)
 {
     FormWindow* const window = WindowOf(form);
     return window == nullptr ? ToTwips(ToPixels(clientArea)) : window->Fit(clientArea);
+}
+
+Size DesktopPlatform::LargestClientArea(const Form& form)
+{
+    const FormWindow* const window = WindowOf(form);
+    const QScreen& on = window == nullptr ? FormWindow::HomeScreen() : *window->screen();
+    return ToTwips(on.availableGeometry().size().shrunkBy(desk_.frame));
 }
 
 void DesktopPlatform::ChangesPending(Form& form)

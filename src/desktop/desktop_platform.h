@@ -31,6 +31,7 @@ public:
     void RunModal(Form& form, Form* owner) override;
     void DestroyForm(Form& form) override;
     Size FitWindow(Form& form, Size clientArea) override;
+    Size LargestClientArea(const Form& form) override;
     void ChangesPending(Form& form) override;
     void FreezeSurface(const Control* surface) override;
 

@@ -3,11 +3,13 @@
 #include "desktop/colours.h"
 #include "desktop/painter.h"
 #include "desktop/pixels.h"
+#include "desktop/placing.h"
 #include "desktop/text.h"
 
 #include <QApplication>
 #include <QCloseEvent>
 #include <QCoreApplication>
+#include <QCursor>
 #include <QIcon>
 #include <QKeyEvent>
 #include <QResizeEvent>
@@ -16,7 +18,6 @@
 #include <QTimer>
 #include <QWindow>
 
-#include <algorithm>
 #include <utility>
 
 namespace tessarine
@@ -70,9 +71,8 @@ void FormWindow::Open()
         return;
     }
     RefreshEverything();
-    if (!placed_) {
-        const QWidget* const front = QApplication::activeWindow();
-        PlaceBeside(front != nullptr && front->isVisible() ? front : nullptr);
+    if (!place_) {
+        PlaceBy(QApplication::activeWindow(), &placing::Beside);
     }
     widgets_.FocusFirst();
     show();
@@ -85,8 +85,7 @@ void FormWindow::RunBefore(FormWindow* owner)
     winId(); // the window must exist before it can be told whose it is
     windowHandle()->setTransientParent(owner == nullptr ? nullptr : owner->windowHandle());
     RefreshEverything();
-    const bool onOwner = owner != nullptr && owner->isVisible();
-    CentreOn(onOwner ? owner->geometry() : screen()->availableGeometry());
+    PlaceBy(owner, &placing::Centred);
     widgets_.FocusFirst();
     show();
     activateWindow();
@@ -121,30 +120,54 @@ void FormWindow::LetGoOfForm()
     }
 }
 
-/// Beside another window where there is room, so that both can be seen; else in the middle.
-void FormWindow::PlaceBeside(const QWidget* other)
+// --- places ---
+
+QScreen& FormWindow::HomeScreen()
 {
-    const QRect available = screen()->availableGeometry();
-    const QRect taken = other == nullptr ? QRect() : other->frameGeometry();
-    const int frame = other == nullptr ? 0 : taken.width() - other->width();
-    const int needed = width() + frame;
-    const bool fitsRight = taken.right() + needed < available.right();
-    if (other == nullptr || (!fitsRight && taken.left() - needed < available.left())) {
-        CentreOn(available);
-        return;
-    }
-    move(fitsRight ? taken.right() + 1 : taken.left() - needed, taken.top());
-    placed_ = true;
+    QScreen* const underPointer = QGuiApplication::screenAt(QCursor::pos());
+    return underPointer == nullptr ? *QGuiApplication::primaryScreen() : *underPointer;
 }
 
-void FormWindow::CentreOn(const QRect& area)
+/// By another window if it is up; else in the middle of the home screen.
+void FormWindow::PlaceBy(const QWidget* other, placing::Rule* rule)
 {
-    QPoint corner = area.center() - rect().center();
-    const QRect available = screen()->availableGeometry();
-    corner.setX(std::max(available.left(), std::min(corner.x(), available.right() - width())));
-    corner.setY(std::max(available.top(), std::min(corner.y(), available.bottom() - height())));
-    move(corner);
-    placed_ = true;
+    const bool isAlone = other == nullptr || !other->isVisible();
+    QScreen& on = isAlone ? HomeScreen() : *other->screen();
+    const QRect screen = on.availableGeometry();
+    place_ = [rule = isAlone ? &placing::Centred : rule, screen,
+              by = isAlone ? screen : other->windowHandle()->frameGeometry()](QSize outer) {
+        return rule(outer, by, screen);
+    };
+    setScreen(&on);
+    PutInPlace();
+}
+
+/// Some window systems tell it only of a window that is up; before, it may be like the latest.
+QMargins FormWindow::Frame() const
+{
+    const QMargins own = windowHandle() == nullptr ? QMargins() : windowHandle()->frameMargins();
+    if (!own.isNull()) {
+        return own;
+    }
+    return wasPainted_ ? frame_ : TheDesk().frame;
+}
+
+/// Says where the client area is to be, not the frame: a window system that was told of the frame
+/// would move the window by it at the next change of size.
+void FormWindow::PutInPlace()
+{
+    frame_ = Frame();
+    const QPoint corner = place_(size().grownBy(frame_));
+    setGeometry({corner + QPoint(frame_.left(), frame_.top()), size()});
+}
+
+/// The guess may have been wrong.
+void FormWindow::LearnFrame()
+{
+    TheDesk().frame = Frame();
+    if (TheDesk().frame != frame_ && place_) {
+        PutInPlace();
+    }
 }
 
 // --- sizes ---
@@ -199,6 +222,7 @@ bool FormWindow::event(QEvent* event)
     } else if (type == QEvent::WindowActivate && TheForm() != nullptr) {
         TheForm()->FeedActivation();
     } else if (type == QEvent::Paint && !std::exchange(wasPainted_, true)) {
+        LearnFrame();
         QTimer::singleShot(0, this, &FormWindow::ShowIcon);
     }
     return Surface::event(event);

@@ -2,10 +2,13 @@
 #pragma once
 
 #include "desktop/form_widgets.h"
+#include "desktop/placing.h"
 #include "desktop/size_talk.h"
 #include "desktop/surface.h"
 
 #include <QEventLoop>
+
+#include <functional>
 
 namespace tessarine
 {
@@ -24,6 +27,8 @@ public:
     void Shut();
     /// From now on nothing reaches the form, nor any control of it.
     void LetGoOfForm();
+    /// The screen on which a window comes up that belongs to no other.
+    static QScreen& HomeScreen();
 
     /// Asks for another client area, in twips, and returns the one that the window has.
     Size Fit(Size clientArea);
@@ -43,8 +48,10 @@ protected:
 private:
     Form* TheForm() const { return static_cast<Form*>(TheControl()); }
     bool HoldsItsSize() const;
-    void CentreOn(const QRect& area);
-    void PlaceBeside(const QWidget* other);
+    void PlaceBy(const QWidget* other, placing::Rule* rule);
+    QMargins Frame() const;
+    void PutInPlace();
+    void LearnFrame();
     void ShowIcon();
     void RefreshOwnLook();
     void RefreshEverything();
@@ -54,7 +61,9 @@ private:
     QPointer<FormWindow> owner_;
     SizeTalk sizes_;
     bool fitting_ = false;
-    bool placed_ = false;
+    /// Where the window comes up, by its size with its frame; none before it first did.
+    std::function<QPoint(QSize outer)> place_;
+    QMargins frame_; ///< that it was placed with
     bool wasPainted_ = false;
 };
 

@@ -5,6 +5,7 @@
 #include "runtime/form.h"
 #include "runtime/platform.h"
 
+#include <QMargins>
 #include <QPointer>
 #include <QWidget>
 
@@ -18,6 +19,8 @@ struct Desk {
     Typesetter typesetter;
     /// Where the pointer was at the latest event of a mouse gesture; none between two gestures.
     std::optional<PixelPoint> pointer;
+    /// The frame that the desktop puts around a window: a guess until the first one is up.
+    QMargins frame{4, 23, 4, 4};
 };
 
 /// One widget and its control. The control says how things are; the widget follows it in Refresh and

@@ -138,6 +138,11 @@ Size HeadlessPlatform::FitWindow(Form& form, Size clientArea)
     return {wholePixels(clientArea.width), wholePixels(clientArea.height)};
 }
 
+Size HeadlessPlatform::LargestClientArea(const Form& /*form*/)
+{
+    return {screen.width - FrameWidth, screen.height - FrameHeight};
+}
+
 void HeadlessPlatform::ChangesPending(Form& form)
 {
     changed_.push_back(&form);

@@ -76,6 +76,7 @@ public:
     PixelPoint cursor;
     DateTime now{2008, 3, 14, 15, 9, 26, "Mar"};
     std::int64_t milliseconds = 0; ///< of the virtual clock since the start
+    Size screen{1920 * TwipsPerPixel, 1080 * TwipsPerPixel};
     /// A window of this form keeps the width that it has: maximised, tiled.
     std::set<const Form*> refusesSize;
 
@@ -105,6 +106,7 @@ public:
     void RunModal(Form& form, Form* owner) override;
     void DestroyForm(Form& form) override;
     Size FitWindow(Form& form, Size clientArea) override;
+    Size LargestClientArea(const Form& form) override;
     void ChangesPending(Form& form) override;
     void FreezeSurface(const Control* surface) override;
     void RunPendingEvents() override;

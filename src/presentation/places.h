@@ -14,6 +14,7 @@ inline constexpr Size DesignArea{6600, 7710};
 inline constexpr Twips RowLeft = 30;
 inline constexpr Twips RowTop = 30;
 inline constexpr Twips RowButton = 360;
+inline constexpr Twips RowRight = RowLeft + 10 * RowButton;
 
 // The table surface and the scores panel on it.
 inline constexpr Twips SurfaceLeft = 30;

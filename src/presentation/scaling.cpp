@@ -46,6 +46,26 @@ double Scaling::UsableFactor(float factor) const
     return std::clamp<double>(factor, places::SmallestCard / width, places::LargestCard / width);
 }
 
+/// What is left of the window is the same at every size.
+float Scaling::FirstFactor(float wanted) const
+{
+    Form& form = table_.form();
+    const auto toFill = [this](Twips clientWidth) {
+        return (clientWidth + FrameWidth - places::WindowMargin - places::SurfaceMargin) /
+               WidthOfItems();
+    };
+    const double largest = toFill(form.platform().LargestClientArea(form).width);
+    const double smallest = toFill(places::RowRight + places::RowLeft);
+    return static_cast<float>(std::min(largest, std::max(smallest, UsableFactor(wanted))));
+}
+
+/// Up to the right edge of the last pile.
+Twips Scaling::WidthOfItems() const
+{
+    constexpr int lastPileBase = FirstPileBase + Piles - 1;
+    return table_.SlotLeft[At(lastPileBase)] + table_.shared().CardWidth;
+}
+
 /// Each number is rounded by itself, from its last rounded value.
 void Scaling::ScaleNumbers(double factor)
 {
@@ -129,8 +149,7 @@ void Scaling::FitWindow()
 {
     Form& form = table_.form();
     Module1& shared = table_.shared();
-    constexpr int lastPileBase = FirstPileBase + Piles - 1;
-    const Twips width = table_.SlotLeft[At(lastPileBase)] + shared.CardWidth + places::SurfaceMargin;
+    const Twips width = WidthOfItems() + places::SurfaceMargin;
     table_.Picture2.SetWidth(width);
     shared.LastFormWidth = -1;
     const Twips height = form.OuterHeight() - table_.Picture2.Top() - places::BelowSurface;

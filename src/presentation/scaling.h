@@ -20,9 +20,13 @@ public:
     /// table if it can. A factor that is no size (not a number, zero, negative) counts as 1, and one
     /// that would make the cards absurdly small or large is held back.
     void ScaleTable(float factor);
+    /// The factor nearest to this one that makes a table of the size designed as wide as the command
+    /// row needs and no wider than the screen has room for.
+    float FirstFactor(float wanted) const;
 
 private:
     double UsableFactor(float factor) const;
+    Twips WidthOfItems() const;
     void ScaleNumbers(double factor);
     void ShapeItems();
     void LayBases();

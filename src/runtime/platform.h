@@ -60,6 +60,9 @@ public:
     /// Gives the window another client area, in twips, and returns the one that it really has: as
     /// asked, rounded to pixels, or the old one where the window refuses.
     virtual Size FitWindow(Form& form, Size clientArea) = 0;
+    /// The largest client area, in twips, that the form's window can have and be seen whole where it
+    /// stands or would come up.
+    virtual Size LargestClientArea(const Form& form) = 0;
     /// The form has its first change since TakeChanges; called once, not for each change.
     virtual void ChangesPending(Form& form) = 0;
     /// Nothing on this control is drawn until it is thawed; then all of it, at once. None thaws.

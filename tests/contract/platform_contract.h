@@ -145,6 +145,9 @@ TYPED_TEST_P(PlatformContract, AWindowTakesWholePixelsOrKeepsItsSize)
     EXPECT_EQ(fitted({6007, 3008}), (Size{6000, 3015})); // just short of half a pixel, and past it
     EXPECT_EQ(fitted({6007, 3015}), (Size{6000, 3015}));
     EXPECT_EQ(form.resizes, 1);
+    const Size largest = this->platform.LargestClientArea(form);
+    EXPECT_TRUE(largest.width > 6000 && largest.height > 3015);
+    EXPECT_EQ(fitted(largest), largest);
     this->world.MakeRefuse(form); // which may have made it another size
     const Size kept{form.Width(), form.Height()};
     EXPECT_EQ(fitted({kept.width + 1500, kept.height}), kept);

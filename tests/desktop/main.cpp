@@ -1,11 +1,22 @@
 #include <QApplication>
+#include <QTemporaryFile>
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+
 int main(int argc, char* argv[])
 {
-    // Windows without a screen, with everything else as on a real one.
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    // Windows on two screens side by side that nobody sees, with everything else as on real ones.
+    QTemporaryFile screens;
+    if (!screens.open()) {
+        return EXIT_FAILURE;
+    }
+    screens.write(R"({"screens": [
+        {"name": "left", "x": 0, "y": 0, "width": 800, "height": 800},
+        {"name": "right", "x": 800, "y": 0, "width": 900, "height": 700}]})");
+    screens.close();
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + screens.fileName().toUtf8());
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
         Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     QCoreApplication::setAttribute(Qt::AA_Use96Dpi);

@@ -1,6 +1,9 @@
 #include "stage.h"
 
+#include "desktop/placing.h"
 #include "desktop/size_talk.h"
+
+#include <QCursor>
 
 namespace tessarine
 {
@@ -77,6 +80,45 @@ TEST_F(WindowTest, ALostReleaseDoesNotHoldTheMouseForEver)
     ASSERT_EQ(form.Captured(), &card);
     hand.Click(other);
     EXPECT_EQ(heard, "up other");
+}
+
+TEST_F(WindowTest, StandsWithItsFrameInTheMiddleOfItsOwnerOrOfTheScreenWithThePointer)
+{
+    const auto middle = [](const QRect& rect) { return rect.topLeft() + rect.bottomRight(); };
+    const auto frameOf = [this](const Form& one) { return platform.WindowOf(one)->frameGeometry(); };
+    Form box(forms, "box", {3000, 900});
+    QCursor::setPos(1000, 300);
+    Show({});
+    EXPECT_EQ(middle(frameOf(form)), middle({800, 0, 900, 700}));
+    QCursor::setPos(100, 300);
+    platform.WindowOf(form)->move(1100, 90);
+    WhenModal([&] {
+        EXPECT_GT(frameOf(box).width(), 200) << "without a frame this tries nothing";
+        EXPECT_EQ(middle(frameOf(box)), middle(frameOf(form)));
+        box.Hide();
+    });
+    box.ShowModal(&form);
+    platform.WindowOf(form)->move(810, -20);
+    WhenModal([&] {
+        EXPECT_TRUE(QRect(800, 0, 900, 700).contains(frameOf(box)));
+        box.Hide();
+    });
+    form.SetClientArea({1500, 600});
+    box.ShowModal(&form);
+}
+
+TEST(PlacingTest, AWindowIsWhollyOnTheScreenOfItsOwner)
+{
+    const QRect screen(0, 0, 1600, 1000);
+    const QRect second(1600, 200, 1000, 800);
+    const QSize box(400, 138);
+    EXPECT_EQ(placing::Centred(box, second, second), QPoint(1900, 531));
+    EXPECT_EQ(placing::Centred(box, {1500, 100, 266, 539}, screen), QPoint(1200, 300));
+    EXPECT_EQ(placing::Centred(box, {1500, 950, 266, 539}, second), QPoint(1600, 862));
+    EXPECT_EQ(placing::Centred({1100, 900}, second, second), second.topLeft());
+    EXPECT_EQ(placing::Beside(box, {900, 100, 300, 500}, screen), QPoint(1200, 100));
+    EXPECT_EQ(placing::Beside(box, {901, 900, 300, 500}, screen), QPoint(501, 862));
+    EXPECT_EQ(placing::Beside(box, {300, 0, 1000, 900}, screen), QPoint(600, 431));
 }
 
 TEST_F(WindowTest, OnlyAWindowThatGetsItsOldSizeBackHoldsIt)

@@ -20,11 +20,12 @@ std::string SchemeFileText()
 }
 
 /// Puts the files of an installed program in place before the form is made.
-HeadlessPlatform& Prepared(HeadlessPlatform& platform)
+HeadlessPlatform& Prepared(HeadlessPlatform& platform, const std::string& scale = "1")
 {
     platform.files["/app/all.col"] = SchemeFileText();
-    platform.files["/app/tessarine.cfg"] = "stamp\r\n 1 16777215 1 \r\n 1 \r\n 0 \r\n 8388608 \r\n"
-                                           " 32768 \r\n 32896 \r\n 128 \r\ndefault.col\r\narial\r\n";
+    platform.files["/app/tessarine.cfg"] =
+        "stamp\r\n 1 16777215 1 \r\n " + scale +
+        " \r\n 0 \r\n 8388608 \r\n 32768 \r\n 32896 \r\n 128 \r\ndefault.col\r\narial\r\n";
     return platform;
 }
 
@@ -39,6 +40,12 @@ GameWorld::GameWorld(std::uint64_t seed) : platform(seed), form(Prepared(platfor
 {
     form.Start();
     platform.sounds.clear();
+}
+
+GameWorld::GameWorld(Size screen, const std::string& scale)
+    : form((platform.screen = screen, Prepared(platform, scale)), "/app", "tessarine")
+{
+    form.Start();
 }
 
 void GameWorld::Arrange(const Position& position)

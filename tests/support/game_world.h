@@ -15,6 +15,8 @@ class GameWorld
 {
 public:
     explicit GameWorld(std::uint64_t seed = 1);
+    /// On a screen of this size, with this scale of the table stored.
+    GameWorld(Size screen, const std::string& scale);
 
     HeadlessPlatform platform;
     Form1 form;

@@ -60,6 +60,30 @@ TEST(LayoutTest, FactorsThatCanNotServe)
     EXPECT_EQ(world.Fault(), "");
 }
 
+TEST(LayoutTest, TheFirstTableFitsTheScreenAndShowsTheWholeCommandRow)
+{
+    struct Start {
+        std::string stored;
+        Twips screen;
+        Twips width; ///< of the window, frame included
+    };
+    const std::vector<Start> starts = {
+        {"1", 12000, 4080}, {"2.5", 12000, 9780}, {"3", 11000, 11000}, {"1e9", 12000, 12000},
+        {"0", 12000, 4080}, {"1", 3990, 3990},    {".2", 12000, 3780}, // to the end of the row at 3630,
+                                                                       // and the margin and the frame
+    };
+    for (const Start& start : starts) {
+        GameWorld world({start.screen, 9000}, start.stored);
+        EXPECT_NEAR(world.form.OuterWidth(), start.width, TwipsPerPixel) << start.stored;
+        EXPECT_LE(world.form.OuterWidth(), start.screen);
+        EXPECT_GE(world.form.Width(), world.form.cmdundo.Left() + 360);
+        EXPECT_EQ(world.form.shared.CardScale, std::stof(start.stored)) << "kept until Exit";
+        EXPECT_EQ(world.Fault(), "");
+        world.form.scaling.ScaleTable(0.5F); // later sizes are the user's
+        EXPECT_LT(world.form.Width(), start.width * 0.6);
+    }
+}
+
 TEST(ResizingTest, TheWindowSnapsToTheTable)
 {
     GameWorld world;
