@@ -26,6 +26,9 @@ namespace
 /// How long the program's last sound may go on after its windows are gone.
 constexpr std::chrono::milliseconds LastSound{2500};
 
+/// The toolkit's timers keep to their time from here on. Below, some systems take much longer.
+constexpr int ShortestTimer = 20;
+
 /// The window that a box of the system belongs to. Just after another box has closed none may be
 /// active yet.
 QWidget* OwnerOfBox()
@@ -37,7 +40,11 @@ QWidget* OwnerOfBox()
 } // namespace
 
 DesktopPlatform::DesktopPlatform(WavePlayerMaker openPlayer)
-    : sounds_(std::move(openPlayer)), random_(std::random_device()())
+    : sounds_(std::move(openPlayer)), shortWaits_([this](int number) {
+          QMetaObject::invokeMethod(
+              this, [this, number] { FireTimer(number); }, Qt::QueuedConnection);
+      }),
+      random_(std::random_device()())
 {
     InstallAccessibility();
 }
@@ -150,22 +157,32 @@ void DesktopPlatform::WaitForEvent()
 void DesktopPlatform::StartTimer(Timer& timer, int milliseconds)
 {
     StopTimer(timer);
-    timers_.emplace(startTimer(milliseconds, Qt::PreciseTimer), &timer);
+    const int number = milliseconds < ShortestTimer
+                           ? shortWaits_.Start(std::chrono::milliseconds(milliseconds))
+                           : startTimer(milliseconds, Qt::PreciseTimer);
+    timers_.emplace(number, &timer);
 }
 
 void DesktopPlatform::StopTimer(Timer& timer)
 {
     const auto running = std::ranges::find(timers_, &timer, &decltype(timers_)::value_type::second);
     if (running != timers_.end()) {
-        killTimer(running->first);
-        timers_.erase(running);
+        if (running->first >= 0) {
+            killTimer(running->first);
+        }
+        timers_.erase(running); // the end of a short wait will find nobody
     }
 }
 
 void DesktopPlatform::timerEvent(QTimerEvent* event)
 {
     killTimer(event->timerId());
-    const auto running = timers_.find(event->timerId());
+    FireTimer(event->timerId());
+}
+
+void DesktopPlatform::FireTimer(int number)
+{
+    const auto running = timers_.find(number);
     if (running != timers_.end()) {
         Timer& timer = *running->second;
         timers_.erase(running);
@@ -179,10 +196,7 @@ void DesktopPlatform::timerEvent(QTimerEvent* event)
 /// since every file is written whole and flushed when it is written.
 void DesktopPlatform::EndProgram()
 {
-    for (const auto& [number, timer] : timers_) {
-        killTimer(number);
-    }
-    timers_.clear();
+    timers_.clear(); // what still ticks finds nobody
     for (const auto& [form, window] : windows_) {
         window->LetGoOfForm();
     }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "desktop/form_window.h"
+#include "desktop/short_waits.h"
 #include "desktop/sounds.h"
 #include "runtime/platform.h"
 #include "runtime/timer.h"
@@ -80,11 +81,13 @@ private:
     using Window = std::unique_ptr<FormWindow, EndWindow>;
 
     FormWindow& MakeWindow(Form& form);
+    void FireTimer(int number);
 
     Desk desk_;
     Sounds sounds_;
     std::unordered_map<const Form*, Window> windows_;
-    std::map<int, Timer*> timers_; ///< by the toolkit's number
+    std::map<int, Timer*> timers_; ///< by the toolkit's number, or that of a short wait
+    ShortWaits shortWaits_;
     std::mt19937_64 random_;
     const Control* frozen_ = nullptr;
     bool busy_ = false;

@@ -121,6 +121,34 @@ TEST(PlacingTest, AWindowIsWhollyOnTheScreenOfItsOwner)
     EXPECT_EQ(placing::Beside(box, {300, 0, 1000, 900}, screen), QPoint(600, 431));
 }
 
+TEST_F(WindowTest, AShortWaitNeedsNoTimerOfTheToolkit)
+{
+    class Counter : public QObject
+    {
+    public:
+        bool eventFilter(QObject*, QEvent* event) override
+        {
+            ticks += event->type() == QEvent::Timer ? 1 : 0;
+            return false;
+        }
+        int ticks = 0;
+    } toolkit;
+    platform.installEventFilter(&toolkit);
+    const auto wait = [this](int milliseconds) {
+        Timer timer(platform);
+        timer.OnTick = [&] { timer.SetEnabled(false); };
+        timer.SetInterval(milliseconds);
+        timer.SetEnabled(true);
+        while (timer.Enabled()) {
+            platform.WaitForEvent();
+        }
+    };
+    wait(3);
+    EXPECT_EQ(toolkit.ticks, 0);
+    wait(20);
+    EXPECT_EQ(toolkit.ticks, 1);
+}
+
 TEST_F(WindowTest, OnlyAWindowThatGetsItsOldSizeBackHoldsIt)
 {
     form.Sizable = true;
