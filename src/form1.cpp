@@ -15,8 +15,9 @@ Form1::Form1(Platform& platform, const std::string& programPath, const std::stri
       deal(table, [this] { undo.Clear(); }), ring(table), drops(table, ring, undo),
       automove(table, drops, [this] { gameCommands.GameWon(); }),
       gestures(table, ring, drops, undo, automove), scaling(table, NextCard), resizing(table, scaling),
-      configuration(platform, shared, msgForm), gameFile(table, deal, scaling, ring, msgForm),
-      gameCommands({table, deal, scaling, ring, undo, gameFile, Score1, msgForm, gf1}),
+      configuration(platform, shared.AppDir, shared, msgForm), gameFile(table, deal, scaling, ring),
+      snapshot(table, gameFile),
+      gameCommands({table, deal, scaling, ring, undo, gameFile, snapshot, Score1, msgForm, gf1}),
       schemeStore(shared, msgForm),
       form6(list, shared, schemeStore, msgForm, sound, [this] { Command2_Click(); }),
       programCommands({*this, form6, form4, aboutForm, msgForm, configuration, Score1, shared, sound})
@@ -124,7 +125,7 @@ void Form1::Form_Load()
     TakePlacesOfStacks();
     scaling.ScaleTable(scaling.FirstFactor(shared.CardScale));
     ring.NextStockCard();
-    gameFile.SaveCardOrder(shared.AppDir + "tempgame.txt");
+    gameCommands.TakeSnapshot();
 }
 
 void Form1::DressMessageBox()

@@ -18,6 +18,7 @@
 #include "store/game_file.h"
 #include "store/program_commands.h"
 #include "store/scores.h"
+#include "store/snapshot.h"
 #include "table/automove.h"
 #include "table/deal.h"
 #include "table/drops.h"
@@ -83,6 +84,7 @@ public:
     Resizing resizing;
     Configuration configuration;
     GameFile gameFile;
+    Snapshot snapshot;
     GameCommands gameCommands;
     SchemeStore schemeStore;
     Form6 form6;

@@ -241,15 +241,13 @@ DateTime DesktopPlatform::Now()
     const QDateTime now = QDateTime::currentDateTime();
     const QDate date = now.date();
     const QTime time = now.time();
-    constexpr qsizetype monthLetters = 3;
-    const QString month = QLocale::system().monthName(date.month(), QLocale::ShortFormat);
     return {date.year(),
             date.month(),
             date.day(),
             time.hour(),
             time.minute(),
             time.second(),
-            ToBytes(month.left(monthLetters))};
+            ShortMonth(QLocale::system(), date.month())};
 }
 
 float DesktopPlatform::SecondsSinceMidnight()

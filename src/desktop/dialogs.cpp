@@ -4,7 +4,6 @@
 #include "desktop/text.h"
 
 #include <QCoreApplication>
-#include <QFile>
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QMessageBox>
@@ -61,7 +60,7 @@ std::string File(QWidget* parent, const FileDialogRequest& request)
     }
     std::string chosen;
     if (box.exec() == QDialog::Accepted && !box.selectedFiles().isEmpty()) {
-        chosen = QFile::encodeName(box.selectedFiles().constFirst()).toStdString();
+        chosen = ToBytes(box.selectedFiles().constFirst());
     }
     files::ChangeFolder(before);
     return chosen;

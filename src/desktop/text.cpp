@@ -16,4 +16,13 @@ std::string ToBytes(const QString& text)
     return text.toStdString();
 }
 
+std::string ShortMonth(const QLocale& locale, int month)
+{
+    constexpr qsizetype letters = 3;
+    // The name by itself: within a date it may have a little word before it.
+    QString name = locale.standaloneMonthName(month, QLocale::ShortFormat);
+    name.removeIf([](QChar letter) { return letter.isSpace(); });
+    return ToBytes(QString::fromStdU32String(name.toStdU32String().substr(0, letters)));
+}
+
 } // namespace tessarine

@@ -1,6 +1,7 @@
 // The program's 8-bit text and the toolkit's.
 #pragma once
 
+#include <QLocale>
 #include <QString>
 
 #include <string>
@@ -14,5 +15,8 @@ QString ToText(std::string_view bytes);
 
 /// Always UTF-8.
 std::string ToBytes(const QString& text);
+
+/// The first three letters of a month's short name, from 1 for January, none of them a blank.
+std::string ShortMonth(const QLocale& locale, int month);
 
 } // namespace tessarine

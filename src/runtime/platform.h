@@ -16,7 +16,8 @@ class Control;
 class Form;
 class Timer;
 
-/// The local time. `shortMonth` is the month's short name in the user's language, three letters.
+/// The local time. `shortMonth` is the month's short name in the user's language, three letters without
+/// a blank.
 struct DateTime {
     int year = 0;
     int month = 0;

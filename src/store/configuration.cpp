@@ -5,6 +5,9 @@
 
 #include <array>
 #include <cstdio>
+#include <optional>
+#include <utility>
+#include <vector>
 
 namespace tessarine
 {
@@ -18,6 +21,11 @@ constexpr std::size_t PrintZone = 14;
 std::string Printed(Whole value)
 {
     return NumberText(value) + ' ';
+}
+
+const std::string& Printed(const std::string& value)
+{
+    return value;
 }
 
 std::string Printed(float value)
@@ -40,77 +48,59 @@ std::string TimeStamp(const DateTime& now)
     return {text.data(), static_cast<std::size_t>(length)};
 }
 
-bool ReadWhole(ValueStream& values, Whole& into)
+std::string TextOf(const Settings& settings, const DateTime& now)
 {
-    double value = 0;
-    const bool read = values.ReadNumber(value);
-    into = RoundHalfEven(value);
-    return read;
+    std::vector<std::string> lines = {TimeStamp(now)};
+    std::string line;
+    ForEachSetting(settings, [&](const auto& value, bool endsLine) {
+        AddInZone(line, Printed(value));
+        if (endsLine) {
+            lines.push_back(std::exchange(line, {}));
+        }
+    });
+    return JoinLines(lines);
 }
 
-bool ReadAll(ValueStream values, Module1& into)
+/// None if the text ends before the last value.
+std::optional<Settings> ReadSettings(std::string_view text)
 {
-    double scale = 0;
-    bool read = values.SkipLine() && ReadWhole(values, into.CfgSpare) &&
-                ReadWhole(values, into.CardTextColor) && ReadWhole(values, into.SoundOn) &&
-                values.ReadNumber(scale);
-    into.CardScale = static_cast<float>(scale);
-    for (Colour& colour : into.SuitColor) {
-        read = read && ReadWhole(values, colour);
-    }
-    return read && values.ReadText(into.SchemeFile) && values.ReadText(into.CardFont);
+    ValueStream values(text);
+    Settings settings;
+    bool read = values.SkipLine();
+    ForEachSetting(settings, [&](auto& value, bool /*endsLine*/) { read = read && values.Read(value); });
+    return read ? std::optional(settings) : std::nullopt;
 }
 
 } // namespace
 
 std::string Configuration::Path() const
 {
-    return shared_.AppDir + "tessarine.cfg";
+    return appDir_ + "tessarine.cfg";
 }
 
 void Configuration::ReadcfgFile()
 {
-    const FileResult file = platform_.ReadFile(Path());
-    if (file && ReadAll(ValueStream(file.text), shared_)) {
+    const auto settings = ReadSettings(platform_.ReadFile(Path()).text);
+    if (settings) {
+        settings_ = *settings;
         return;
     }
     Complain("could not be accessed, new file will be created");
-    SetNewValues();
+    settings_ = Settings();
     // Where even that can't be written the program goes on with the new values.
-    static_cast<void>(ReplaceFile(platform_, Path(), Text()));
+    static_cast<void>(Write());
 }
 
 void Configuration::SavecfgFile()
 {
-    if (ReplaceFile(platform_, Path(), Text()) != FileFault::None) {
+    if (Write() != FileFault::None) {
         Complain("could not be accessed, options not saved");
     }
 }
 
-void Configuration::SetNewValues()
+FileFault Configuration::Write()
 {
-    shared_.CfgSpare = 1;
-    shared_.CardTextColor = White;
-    shared_.SoundOn = No;
-    shared_.CardScale = 1;
-    shared_.SuitColor = {Rgb(0, 0, 0), Rgb(0, 0, 128), Rgb(0, 128, 0), Rgb(128, 128, 0), Rgb(128, 0, 0)};
-    shared_.SchemeFile = "default.col";
-    shared_.CardFont = "arial";
-}
-
-std::string Configuration::Text() const
-{
-    std::string second = Printed(shared_.CfgSpare);
-    AddInZone(second, Printed(shared_.CardTextColor));
-    AddInZone(second, Printed(shared_.SoundOn));
-
-    std::vector<std::string> lines = {TimeStamp(platform_.Now()), second, Printed(shared_.CardScale)};
-    for (const Colour colour : shared_.SuitColor) {
-        lines.push_back(Printed(colour));
-    }
-    lines.push_back(shared_.SchemeFile);
-    lines.push_back(shared_.CardFont);
-    return JoinLines(lines);
+    return ReplaceFile(platform_, Path(), TextOf(settings_, platform_.Now()));
 }
 
 void Configuration::Complain(std::string_view consequence)

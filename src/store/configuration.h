@@ -2,7 +2,7 @@
 #pragma once
 
 #include "kit/message_box.h"
-#include "table/module1.h"
+#include "table/settings.h"
 
 #include <string>
 #include <string_view>
@@ -13,25 +13,26 @@ namespace tessarine
 class Configuration
 {
 public:
-    Configuration(Platform& platform, Module1& shared, MsgForm& messages)
-        : platform_(platform), shared_(shared), messages_(messages)
+    /// `appDir` is the program's folder, with a separator at its end.
+    Configuration(Platform& platform, const std::string& appDir, Settings& settings, MsgForm& messages)
+        : platform_(platform), appDir_(appDir), settings_(settings), messages_(messages)
     {
     }
 
-    /// Reads "tessarine.cfg" of the program's folder into the shared variables. A file that is missing
-    /// or ends early is told, and replaced by one of new values, which then also hold.
+    /// Reads "tessarine.cfg" of the program's folder into the settings. A file that is missing or ends
+    /// early is told, and replaced by one of new values, which then also hold.
     void ReadcfgFile();
-    /// Writes the shared variables there. A failure is told.
+    /// Writes the settings there. A failure is told.
     void SavecfgFile();
 
 private:
     std::string Path() const;
-    std::string Text() const;
-    void SetNewValues();
+    FileFault Write();
     void Complain(std::string_view consequence);
 
     Platform& platform_;
-    Module1& shared_;
+    const std::string& appDir_;
+    Settings& settings_;
     MsgForm& messages_;
 };
 

@@ -1,5 +1,6 @@
 #include "store/game_commands.h"
 
+#include "runtime/busy_pointer.h"
 #include "runtime/files.h"
 #include "table/automove.h"
 
@@ -8,7 +9,6 @@ namespace tessarine
 namespace
 {
 
-constexpr std::string_view Snapshot = "tempgame.txt";
 constexpr std::string_view SavedGame = "savedgame.gam";
 
 std::string TwoLines(std::string_view first, std::string_view second)
@@ -32,25 +32,25 @@ void GameCommands::cmdnewgame_MouseUp()
         rooms_.messages.MsgboxA("Abandon current game?", "vbquestion+vbyesno") != AnswerYes) {
         return;
     }
-    platform().SetBusyPointer(true);
-    rooms_.scores.SetLostSession(true);
-    DealNextGame();
-    platform().SetBusyPointer(false);
+    CountAndDeal(&ScoresBox::SetLostSession);
 }
 
 void GameCommands::cmdSaveGame_MouseUp()
 {
-    platform().SetBusyPointer(true);
-    rooms_.table.sound().PlayWav("_menu.wav");
-    const std::string target = NextFreeName(platform(), InAppDir(SavedGame));
-    const bool saved = !target.empty() && rooms_.gameFile.Copy(InAppDir(Snapshot), target);
-    platform().SetBusyPointer(false);
-    if (saved) {
+    std::string target;
+    const Trouble trouble = WhileBusy(platform(), [&]() -> Trouble {
+        rooms_.table.sound().PlayWav("_menu.wav");
+        target = NextFreeName(platform(), InAppDir(SavedGame));
+        if (target.empty()) {
+            return FileTrouble{rooms_.table.shared().AppDir,
+                               "All 99 names are taken. Remove a game that you no longer need"};
+        }
+        return rooms_.snapshot.CopyTo(target);
+    });
+    if (trouble) {
+        Complain("Game could not be saved:", *trouble);
+    } else {
         rooms_.messages.MsgboxA(TwoLines("Game saved to file:", target), "vbok+vbinformation");
-    } else if (target.empty()) {
-        rooms_.gameFile.Complain(
-            "All 99 names for saved games are taken in folder:", rooms_.table.shared().AppDir,
-            "Nothing was written. Remove a game that you no longer need.");
     }
 }
 
@@ -65,16 +65,21 @@ void GameCommands::cmdLoadGame_MouseUp()
     if (name.empty()) {
         return;
     }
-    platform().SetBusyPointer(true);
-    const bool loaded = rooms_.gameFile.LoadCardOrder(name);
-    if (loaded) {
-        rooms_.undo.Clear();
-        rooms_.gameFile.SaveCardOrder(InAppDir(Snapshot));
+    Trouble notTaken;
+    const Trouble notLoaded = WhileBusy(platform(), [&] {
+        const Trouble trouble = rooms_.gameFile.LoadCardOrder(name);
+        if (!trouble) {
+            rooms_.undo.Clear();
+            notTaken = rooms_.snapshot.Take();
+        }
+        return trouble;
+    });
+    if (notLoaded) {
+        Complain("Game could not be loaded from file:", *notLoaded);
+        return;
     }
-    platform().SetBusyPointer(false);
-    if (loaded) {
-        rooms_.messages.MsgboxA(TwoLines("Game restored from file:", name), "vbok+vbinformation");
-    }
+    TellOfSnapshot(notTaken);
+    rooms_.messages.MsgboxA(TwoLines("Game restored from file:", name), "vbok+vbinformation");
 }
 
 void GameCommands::cmdreset_MouseUp()
@@ -83,23 +88,20 @@ void GameCommands::cmdreset_MouseUp()
     if (rooms_.messages.MsgboxA("Restore current game?", "vbquestion+vbyesno") != AnswerYes) {
         return;
     }
-    platform().SetBusyPointer(true);
-    const bool restored = rooms_.gameFile.LoadCardOrder(InAppDir(Snapshot));
-    platform().SetBusyPointer(false);
-    if (restored) {
-        rooms_.undo.Clear();
-        rooms_.messages.MsgboxA("Game restored", "vbok+vbinformation");
+    const Trouble trouble = WhileBusy(platform(), [this] { return rooms_.snapshot.Restore(); });
+    if (trouble) {
+        Complain("Game could not be restored from file:", *trouble);
+        return;
     }
+    rooms_.undo.Clear();
+    rooms_.messages.MsgboxA("Game restored", "vbok+vbinformation");
 }
 
 void GameCommands::GameWon()
 {
     BringPilesForward();
     rooms_.messages.MsgboxA("Its all done!", "vbhappy+vbok");
-    platform().SetBusyPointer(true);
-    rooms_.scores.SetWonSession(true);
-    DealNextGame();
-    platform().SetBusyPointer(false);
+    CountAndDeal(&ScoresBox::SetWonSession);
 }
 
 void GameCommands::BringPilesForward()
@@ -111,12 +113,33 @@ void GameCommands::BringPilesForward()
     }
 }
 
-void GameCommands::DealNextGame()
+void GameCommands::CountAndDeal(void (ScoresBox::*property)(bool))
 {
-    rooms_.deal.NewDeal();
-    rooms_.scaling.ScaleTable(1.0F);
-    rooms_.ring.NextStockCard();
-    rooms_.gameFile.SaveCardOrder(InAppDir(Snapshot));
+    TellOfSnapshot(WhileBusy(platform(), [&] {
+        (rooms_.scores.*property)(true);
+        rooms_.deal.NewDeal();
+        rooms_.scaling.ScaleTable(1.0F);
+        rooms_.ring.NextStockCard();
+        return rooms_.snapshot.Take();
+    }));
+}
+
+void GameCommands::TakeSnapshot()
+{
+    TellOfSnapshot(rooms_.snapshot.Take());
+}
+
+void GameCommands::TellOfSnapshot(const Trouble& trouble)
+{
+    if (trouble) {
+        Complain("The deal could not be written to file:", *trouble,
+                 "The game goes on. Save and Restore will try to write it again.");
+    }
+}
+
+void GameCommands::Complain(std::string_view what, const FileTrouble& trouble, std::string_view stands)
+{
+    rooms_.messages.MsgboxA(NoticeOf(what, trouble, stands), "vbcritical+vbok");
 }
 
 } // namespace tessarine

@@ -36,28 +36,25 @@ std::string FaultOfGame(const std::vector<std::string>& lines)
     return {};
 }
 
-bool GameFile::SaveCardOrder(const std::string& path)
+std::string GameFile::Text() const
 {
-    const std::vector<std::string> lines(table_.CardOrder.begin(), table_.CardOrder.end());
-    if (ReplaceFile(table_.form().platform(), path, JoinLines(lines)) == FileFault::None) {
-        return true;
-    }
-    Complain("The deal could not be written to file:", path,
-             "The game goes on, but Restore and Save do not know it.");
-    return false;
+    return JoinLines({table_.CardOrder.begin(), table_.CardOrder.end()});
 }
 
-bool GameFile::LoadCardOrder(const std::string& path)
+Trouble GameFile::SaveCardOrder(const std::string& path)
 {
-    const FileResult file = table_.form().platform().ReadFile(path);
+    return TroubleWith(path, ReplaceFile(platform(), path, Text()));
+}
+
+Trouble GameFile::LoadCardOrder(const std::string& path)
+{
+    const FileResult file = platform().ReadFile(path);
     if (!file) {
-        Complain("Game file could not be read:", path, "The game on the table goes on.");
-        return false;
+        return TroubleWith(path, file.fault);
     }
     const std::vector<std::string> lines = SplitLines(file.text);
     if (const std::string fault = FaultOfGame(lines); !fault.empty()) {
-        Complain("This is no game file:", path, fault + ". The game on the table goes on.");
-        return false;
+        return FileTrouble{path, "It is no game file. " + fault};
     }
     const InputHold hold(table_.form());
     table_.CardOrder.Clear();
@@ -67,23 +64,7 @@ bool GameFile::LoadCardOrder(const std::string& path)
     deal_.DealCards(Replay::PresentOrder);
     scaling_.ScaleTable(1.0F);
     ring_.NextStockCard();
-    return true;
-}
-
-bool GameFile::Copy(const std::string& from, const std::string& to)
-{
-    if (CopyFile(table_.form().platform(), from, to) == FileFault::None) {
-        return true;
-    }
-    Complain("Game could not be saved to file:", to, "Nothing was written. The game goes on.");
-    return false;
-}
-
-void GameFile::Complain(std::string_view what, const std::string& path, std::string_view stands)
-{
-    std::string text(what);
-    text.append(LineEnd).append(path).append(LineEnd).append(stands);
-    messages_.MsgboxA(text, "vbcritical+vbok");
+    return std::nullopt;
 }
 
 } // namespace tessarine

@@ -1,14 +1,13 @@
 #include "store/scores.h"
 
 #include "runtime/files.h"
+#include "store/score_line.h"
 #include "store/scramble.h"
 
 namespace tessarine
 {
 namespace
 {
-
-constexpr std::string_view ZeroCounts = " 0 0 0 0 0 ";
 
 struct Bounds {
     Twips left;
@@ -29,20 +28,9 @@ void NameCounter(Label& counter, const std::string& title, const std::string& co
     counter.Describe = [&counter, name = title + column + ": "] { return name + counter.Caption(); };
 }
 
-std::vector<std::string> FieldsOf(std::string_view line)
-{
-    std::vector<std::string> fields;
-    for (auto blank = line.find(' '); blank != std::string_view::npos; blank = line.find(' ')) {
-        fields.emplace_back(line.substr(0, blank));
-        line.remove_prefix(blank + 1);
-    }
-    fields.emplace_back(line);
-    return fields;
-}
-
 void CountUp(Label& counter)
 {
-    counter.SetCaption(std::to_string(std::int64_t{WholeAtStart(counter.Caption())} + 1));
+    counter.SetCaption(OneMore(counter.Caption()));
 }
 
 } // namespace
@@ -119,15 +107,13 @@ void ScoresBox::Restyled()
 void ScoresBox::Start()
 {
     const FileResult file = platform_.ReadFile(file_);
+    fileIsUnread_ = !file && file.fault != FileFault::Missing;
     if (!file.text.empty()) {
         ShowScores(UnscrambleLine(SplitLines(file.text).front()));
         return;
     }
-    const std::string line = Today() + " 0" + std::string(ZeroCounts);
-    // A file that is there but can't be read is left alone.
-    if (file || file.fault == FileFault::Missing) {
-        Write(line);
-    }
+    const std::string line = ScoreLine::New(platform_.Now()).Text() + "0 0 ";
+    Write(line);
     ShowScores(line);
 }
 
@@ -161,29 +147,32 @@ void ScoresBox::Count(Row row)
 /// A count that can't be written stays in the panel, and the next one writes it too.
 void ScoresBox::SaveScores()
 {
-    std::string line = Today() + ' ';
+    ScoreLine line{ScoreDate(platform_.Now()), {}};
     for (std::size_t row = Played; row < Rows; ++row) {
-        line += AllSessions[row].Caption() + ' ';
+        line.counts[row - Played] = AllSessions[row].Caption();
     }
-    Write(line);
+    Write(line.Text());
 }
 
-bool ScoresBox::Write(const std::string& line)
+/// A file that is there but can't be read, now or at the start, may hold counts that the panel does not
+/// have: it is never replaced.
+void ScoresBox::Write(const std::string& line)
 {
-    return ReplaceFile(platform_, file_, ScrambleLine(line) + std::string(LineEnd)) == FileFault::None;
+    const FileFault fault = platform_.ReadFile(file_).fault;
+    if (fault == FileFault::Missing || (fault == FileFault::None && !fileIsUnread_)) {
+        fileIsUnread_ = false;
+        static_cast<void>(ReplaceFile(platform_, file_, ScrambleLine(line).append(LineEnd)));
+    }
 }
 
 void ScoresBox::ShowScores(std::string_view line)
 {
-    std::vector<std::string> fields = FieldsOf(line);
-    if (fields.size() < Rows) {
-        fields = FieldsOf(Today() + std::string(ZeroCounts));
-    }
+    const ScoreLine scores = ScoreLine::Read(line).value_or(ScoreLine::New(platform_.Now()));
     for (std::size_t row = Played; row < Rows; ++row) {
         ThisSession[row].SetCaption("0");
-        AllSessions[row].SetCaption(TrimBlanks(fields[row]));
+        AllSessions[row].SetCaption(scores.counts[row - Played]);
     }
-    Label1.SetCaption("Last Update: " + fields[0]);
+    Label1.SetCaption("Last Update: " + scores.date);
 }
 
 void ScoresBox::AskAndClear()
@@ -191,16 +180,10 @@ void ScoresBox::AskAndClear()
     if (!platform_.PlainMessage("Clear ALL scores", PlainButtons::YesNo)) {
         return;
     }
-    const std::string line = Today() + std::string(ZeroCounts);
+    fileIsUnread_ = false; // the user gives up whatever it holds
+    const std::string line = ScoreLine::New(platform_.Now()).Text() + "0 ";
     Write(line);
     ShowScores(line);
-}
-
-/// Day, month and year with nothing between them: "14Mar2008".
-std::string ScoresBox::Today() const
-{
-    const DateTime now = platform_.Now();
-    return TwoDigits(now.day) + now.shortMonth + std::to_string(now.year);
 }
 
 } // namespace tessarine

@@ -59,11 +59,11 @@ private:
     void Count(Row row);
     void SaveScores();
     void AskAndClear();
-    bool Write(const std::string& line);
-    std::string Today() const;
+    void Write(const std::string& line);
 
     Platform& platform_;
     std::string file_;
+    bool fileIsUnread_ = false; ///< it was there at the start and could not be read
     bool won_ = false;
     bool drawn_ = false;
     bool lost_ = false;

@@ -1,66 +1,60 @@
 #include "store/value_stream.h"
 
-#include "runtime/units.h"
-
 #include <algorithm>
 
 namespace tessarine
 {
-
-bool ValueStream::SkipLine()
+namespace
 {
-    if (rest_.empty()) {
-        return false;
+
+constexpr std::string_view EndsOfNumber = " ,";
+constexpr std::string_view EndsOfText = ",";
+
+std::string_view WithoutBlanksBefore(std::string_view text)
+{
+    return text.substr(std::min(text.find_first_not_of(' '), text.size()));
+}
+
+} // namespace
+
+bool ValueStream::Read(Whole& value)
+{
+    const auto text = TakeUntil(EndsOfNumber);
+    value = WholeAtStart(text.value_or(""));
+    return text.has_value();
+}
+
+bool ValueStream::Read(float& value)
+{
+    const auto text = TakeUntil(EndsOfNumber);
+    value = static_cast<float>(NumberAtStart(text.value_or("")));
+    return text.has_value();
+}
+
+bool ValueStream::Read(std::string& value)
+{
+    const auto text = TakeUntil(EndsOfText);
+    value = text.value_or("");
+    return text.has_value();
+}
+
+std::optional<std::string_view> ValueStream::TakeUntil(std::string_view ends)
+{
+    if (!rest_) {
+        rest_ = lines_.Next();
     }
-    TakeUntil("\n");
-    SkipDelimiter();
-    return true;
-}
-
-bool ValueStream::ReadNumber(double& value)
-{
-    SkipBlanks();
-    if (rest_.empty()) {
-        return false;
+    if (!rest_) {
+        return std::nullopt;
     }
-    value = NumberAtStart(TakeUntil(" ,\r\n"));
-    SkipBlanks();
-    SkipDelimiter();
-    return true;
-}
-
-bool ValueStream::ReadText(std::string& value)
-{
-    SkipBlanks();
-    if (rest_.empty()) {
-        return false;
+    const std::string_view line = WithoutBlanksBefore(*rest_);
+    const auto length = std::min(line.find_first_of(ends), line.size());
+    const std::string_view behind = WithoutBlanksBefore(line.substr(length));
+    if (behind.empty()) {
+        rest_.reset();
+    } else {
+        rest_ = behind.substr(behind.starts_with(',') ? 1 : 0);
     }
-    value = TakeUntil(",\r\n");
-    SkipDelimiter();
-    return true;
-}
-
-void ValueStream::SkipBlanks()
-{
-    rest_.remove_prefix(std::min(rest_.find_first_not_of(' '), rest_.size()));
-}
-
-std::string_view ValueStream::TakeUntil(std::string_view ends)
-{
-    const auto length = std::min(rest_.find_first_of(ends), rest_.size());
-    const std::string_view value = rest_.substr(0, length);
-    rest_.remove_prefix(length);
-    return value;
-}
-
-/// One comma or one end of a line: CR LF, LF or CR.
-void ValueStream::SkipDelimiter()
-{
-    if (rest_.starts_with("\r\n")) {
-        rest_.remove_prefix(2);
-    } else if (rest_.starts_with(',') || rest_.starts_with('\r') || rest_.starts_with('\n')) {
-        rest_.remove_prefix(1);
-    }
+    return line.substr(0, length);
 }
 
 } // namespace tessarine

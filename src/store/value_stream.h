@@ -1,6 +1,10 @@
 // A text file read as a stream of values, whatever its lines.
 #pragma once
 
+#include "runtime/files.h"
+#include "runtime/units.h"
+
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -12,21 +16,22 @@ namespace tessarine
 class ValueStream
 {
 public:
-    explicit ValueStream(std::string_view text) : rest_(text) {}
+    explicit ValueStream(std::string_view text) : lines_(text) {}
 
-    /// Drops what is left of the present line. False at the end of the text.
-    bool SkipLine();
-    /// The next value as a number; 0 where it is none. False at the end of the text.
-    bool ReadNumber(double& value);
-    /// The next value as it stands. False at the end of the text.
-    bool ReadText(std::string& value);
+    /// Drops a line. False at the end of the text.
+    bool SkipLine() { return lines_.Next().has_value(); }
+
+    // The next value; a number is 0 where none stands. False at the end of the text.
+    bool Read(Whole& value);
+    bool Read(float& value);
+    /// As it stands.
+    bool Read(std::string& value);
 
 private:
-    void SkipBlanks();
-    std::string_view TakeUntil(std::string_view ends);
-    void SkipDelimiter();
+    std::optional<std::string_view> TakeUntil(std::string_view ends);
 
-    std::string_view rest_;
+    LineReader lines_;
+    std::optional<std::string_view> rest_; ///< of the present line, if a value may follow on it
 };
 
 } // namespace tessarine

@@ -4,21 +4,21 @@
 #include "kit/dress.h"
 #include "kit/sound.h"
 #include "runtime/units.h"
+#include "table/settings.h"
 
-#include <array>
 #include <string>
 
 namespace tessarine
 {
 
 inline constexpr const char* GameTitle = "Tessarine";
-inline constexpr int Suits = 5;
 
-/// The colours and font of the scheme come from Dress. Lengths are in twips.
-struct Module1 : Dress {
+/// The colours of the scheme come from Dress, what the user chose from Settings. Lengths are in twips.
+struct Module1 : Dress, Settings {
+    /// Until the settings are read the sound is on.
+    Module1() { SoundOn = Yes; }
+
     Whole MoveSteps = 10; ///< steps of the slide of a card; 0 or less turns the slide off
-    Whole SoundOn = Yes;
-    Whole CfgSpare = 1; ///< carried from file to file, used by nothing
 
     Whole TableLeft = 40;
     Whole TableTop = 100;
@@ -27,14 +27,8 @@ struct Module1 : Dress {
     Whole CardWidth = 405;  ///< scaled
     Whole CardHeight = 375; ///< scaled
     Whole BaseCardWidth = 405;
-    float CardScale = 1;     ///< size ratio that the configuration stores
     Whole LastFormWidth = 0; ///< of the window at the last layout; -1 while a layout changes it
 
-    std::array<Colour, Suits> SuitColor{}; ///< by suit number - 1
-    Colour CardTextColor = White;
-    std::string CardFont = "arial";
-
-    std::string SchemeFile; ///< name of the active scheme, with its ".col"
     Colour DarkColor = Rgb(28, 28, 28);
     Colour PanelColor = Rgb(220, 220, 220);
 

@@ -114,6 +114,7 @@ TEST(FreeNames, CountOnFromTheNumberInTheNameAndWrap)
 {
     const auto next = [](const std::string& name, const std::vector<std::string>& taken = {}) {
         HeadlessPlatform platform;
+        platform.separators = "\\/";
         for (const std::string& other : taken) {
             platform.files["/run/" + other] = "x";
         }
@@ -124,8 +125,11 @@ TEST(FreeNames, CountOnFromTheNumberInTheNameAndWrap)
     EXPECT_EQ(next("g;x.gam"), "g;01.gam");
     EXPECT_EQ(next("g;500.gam"), "g;01.gam");
     EXPECT_EQ(next("g;98.gam", {"g;99.gam", "g;01.gam"}), "g;02.gam");
-    EXPECT_EQ(next("/my.games/g"), "/my.games/g;01");
-    EXPECT_EQ(next("/my.games/g;01"), "/my.games/g;02");
+    for (const std::string folder : {"/my.games/", "/my;7/", "C:\\my;games.old\\", "C:/a;b\\"}) {
+        EXPECT_EQ(next(folder + "g"), folder + "g;01");
+        EXPECT_EQ(next(folder + "g;01"), folder + "g;02");
+        EXPECT_EQ(next(folder + "g.gam"), folder + "g;01.gam");
+    }
     std::vector<std::string> all;
     for (int number = 1; number <= 99; ++number) {
         all.push_back("g;" + TwoDigits(number) + ".gam");

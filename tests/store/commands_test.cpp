@@ -43,6 +43,7 @@ TEST(GameCommandsTest, SaveTakesTheFirstFreeNameAndTheDealFromItsStart)
     for (int i = 0; i < 2; ++i) {
         Answer(world, "Ok", told);
         world.Press(world.form.cmdSaveGame);
+        world.platform.files["/app/tempgame.txt"] = "of another program in this folder";
     }
     EXPECT_EQ(told, (std::vector<std::string>{"Game saved to file:\r\n/app/savedgame;01.gam",
                                               "Game saved to file:\r\n/app/savedgame;02.gam"}));
@@ -79,6 +80,7 @@ TEST(GameCommandsTest, LoadMakesTheFileTheCurrentGame)
     EXPECT_EQ(world.form.Score1.AllSessions[1].Caption(), "0");
 
     world.RightClick(world.table.TopCard(7));
+    world.platform.files.erase("/app/tempgame.txt"); // it is written anew
     Answer(world, "Yes", told);
     Answer(world, "Ok", told);
     world.Press(world.form.cmdreset);
@@ -205,16 +207,53 @@ bool IsWhole(const std::string& path, const std::string& bytes)
     return path.ends_with("all.col");
 }
 
-TEST(DiskTest, WhateverFailsNothingIsLostAndTheProgramGoesOn)
+/// Presses the first button of each box, Yes or Ok, and holds what the box claims against the table and
+/// the disk.
+class Witness
+{
+public:
+    explicit Witness(GameWorld& world) : world_(world)
+    {
+        for (int box = 0; box < 9; ++box) {
+            world.platform.OnNextModal([this](Form& form) { See(static_cast<MsgForm&>(form)); });
+        }
+    }
+
+private:
+    void See(MsgForm& box)
+    {
+        const std::string text = box.Label1.Caption();
+        const std::string file = text.substr(text.find('\n') + 1);
+        EXPECT_FALSE(world_.platform.busy) << text;
+        if (text == "Restore current game?") {
+            deal_ = OrderText(world_);
+        } else if (text == "Game restored") {
+            EXPECT_EQ(OrderText(world_), deal_);
+        } else if (text.starts_with("Game saved to") || text.starts_with("Game restored from")) {
+            EXPECT_EQ(OrderText(world_), world_.platform.files[file]) << text;
+        }
+        world_.platform.Click(box.cmd[0]);
+    }
+
+    GameWorld& world_;
+    std::string deal_;
+};
+
+TEST(DiskTest, WhateverFailsNothingIsLostAndWhatIsToldIsTrue)
 {
     using Command = std::function<void(GameWorld&)>;
     const std::vector<Command> commands = {
-        [](GameWorld& w) { w.Press(w.form.cmdSaveGame); },
-        [](GameWorld& w) { w.Press(w.form.cmdnewgame); },
-        [](GameWorld& w) { w.Press(w.form.cmdreset); },
+        [](GameWorld& w) { // Save and Restore of a deal that may not be on the disk
+            w.Press(w.form.cmdnewgame);
+            w.platform.failsFromThere = false;
+            w.Press(w.form.cmdSaveGame);
+            w.Press(w.form.cmdreset);
+            w.Press(w.form.cmdSaveGame);
+        },
         [](GameWorld& w) {
             w.platform.chosenFiles.push_back("/app/old.gam");
             w.Press(w.form.cmdLoadGame);
+            w.Press(w.form.cmdreset);
         },
         [](GameWorld& w) { w.Press(w.form.cmdexit); },
         [](GameWorld& w) {
@@ -225,31 +264,57 @@ TEST(DiskTest, WhateverFailsNothingIsLostAndTheProgramGoesOn)
         [](GameWorld& w) { w.form.configuration.ReadcfgFile(); },
         [](GameWorld& w) { w.form.gameCommands.GameWon(); },
     };
-    for (std::size_t command = 0; command < commands.size(); ++command) {
-        bool reached = true;
-        for (int failing = 0; reached; ++failing) {
-            for (const bool fromThere : {false, true}) {
-                GameWorld world;
-                world.platform.files["/app/old.gam"] = OrderText(world);
-                const auto before = world.platform.files;
-                for (int box = 0; box < 6; ++box) { // Yes where it is asked, Ok to the notices
-                    world.platform.OnNextModal([&world](Form& form) {
-                        world.platform.Click(static_cast<MsgForm&>(form).cmd[0]);
-                    });
-                }
-                world.platform.ResetFileOperations(failing, fromThere);
-                commands[command](world);
-                reached = world.platform.fileOperations > failing;
-                for (const auto& [path, bytes] : world.platform.files) {
-                    EXPECT_TRUE(IsWhole(path, bytes))
-                        << path << ", command " << command << ", failure " << failing;
-                }
-                for (const auto& [path, bytes] : before) {
-                    EXPECT_TRUE(world.platform.files.contains(path)) << path;
-                }
-                EXPECT_EQ(world.Fault(), "");
-                EXPECT_FALSE(world.platform.busy);
+    const std::string old = OrderText(GameWorld(7));
+    const auto tryOut = [&](const Command& command, int failing, bool fromThere, FileFault why) {
+        GameWorld world;
+        world.platform.files["/app/old.gam"] = old;
+        const auto before = world.platform.files;
+        const Witness witness(world);
+        world.platform.ResetFileOperations(failing, fromThere, why);
+        command(world);
+        for (const auto& [path, bytes] : world.platform.files) {
+            EXPECT_TRUE(IsWhole(path, bytes)) << path << ", failure " << failing;
+        }
+        for (const auto& [path, bytes] : before) {
+            EXPECT_TRUE(world.platform.files.contains(path)) << path;
+        }
+        EXPECT_EQ(world.Fault(), "");
+        return world.platform.fileOperations > failing;
+    };
+    for (const Command& command : commands) {
+        for (const FileFault why :
+             {FileFault::Full, FileFault::Forbidden, FileFault::Missing, FileFault::Other}) {
+            bool reached = true;
+            for (int failing = 0; reached; ++failing) {
+                reached = tryOut(command, failing, false, why);
+                tryOut(command, failing, true, why);
             }
+        }
+    }
+}
+
+TEST(DiskTest, TellsWhichFileAndWhy)
+{
+    struct Case {
+        FileFault why;
+        std::string words;
+    };
+    const std::vector<Case> cases = {{FileFault::Full, "full"},
+                                     {FileFault::Forbidden, "protected"},
+                                     {FileFault::IsFolder, "folder"},
+                                     {FileFault::Missing, "not there"}};
+    for (const Case& one : cases) {
+        // The copy can't be written; the snapshot can neither be read nor written.
+        for (const auto& [failing, file] :
+             {std::pair{2, "/app/savedgame;01.gam"}, std::pair{0, "/app/tempgame.txt"}}) {
+            GameWorld world;
+            std::vector<std::string> told;
+            Answer(world, "Ok", told);
+            world.platform.ResetFileOperations(failing, true, one.why);
+            world.Press(world.form.cmdSaveGame);
+            ASSERT_EQ(told.size(), 1U);
+            EXPECT_NE(told[0].find(file), std::string::npos) << told[0];
+            EXPECT_NE(told[0].find(one.words), std::string::npos) << told[0];
         }
     }
 }

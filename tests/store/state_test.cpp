@@ -40,18 +40,10 @@ TEST(ConfigurationTest, RoundTripKeepsEveryValue)
     shared.SchemeFile = "blue lagoon.col";
     shared.CardFont = "Courier New";
     world.form.configuration.SavecfgFile();
-    const Module1 written = shared;
-    shared.CfgSpare = 0;
-    shared.CardScale = 0;
-    shared.SuitColor = {};
-    shared.CardFont.clear();
+    const Settings written = shared;
+    static_cast<Settings&>(shared) = Settings();
     world.form.configuration.ReadcfgFile();
-    EXPECT_EQ(shared.CfgSpare, written.CfgSpare);
-    EXPECT_EQ(shared.SoundOn, 2);
-    EXPECT_EQ(shared.CardScale, written.CardScale);
-    EXPECT_EQ(shared.SuitColor, written.SuitColor);
-    EXPECT_EQ(shared.SchemeFile, "blue lagoon.col");
-    EXPECT_EQ(shared.CardFont, "Courier New");
+    EXPECT_TRUE(static_cast<Settings&>(shared) == written);
     EXPECT_EQ(world.platform.unscriptedModals, 0);
 }
 
@@ -145,21 +137,44 @@ TEST(ScoresTest, FilesOfNonsense)
     struct Case {
         std::string file;
         std::vector<std::string> shown;
+        std::vector<std::string> next; ///< after a game won in a month whose name begins with a blank
     };
     const std::vector<Case> cases = {
-        {"hello\r\n", {"0", "0", "0", "0"}},
-        {ScrambleLine("14Mar2008 1 2"), {"0", "0", "0", "0"}},
-        {ScrambleLine("14Mar2008 x 2 3 4 more") + "\r\nsecond line", {"x", "2", "3", "4"}},
-        {ScrambleLine("d 2147483647 99999999999 -1 4"), {"2147483647", "99999999999", "-1", "4"}}};
+        {"hello\r\n", {"0", "0", "0", "0"}, {"1", "1", "0", "0"}},
+        {ScrambleLine("14Mar2008 1 2"), {"0", "0", "0", "0"}, {"1", "1", "0", "0"}},
+        {ScrambleLine("14Mar2008 x 2 3 4 more") + "\r\nsecond line",
+         {"x", "2", "3", "4"},
+         {"1", "3", "3", "4"}},
+        {ScrambleLine("d 2147483647 99999999999 -1 4"),
+         {"2147483647", "99999999999", "-1", "4"},
+         {"2147483648", "100000000000", "-1", "4"}}};
     for (const Case& one : cases) {
         HeadlessPlatform platform;
+        platform.now.shortMonth = " de";
         platform.files["/run/tessarine.sco"] = one.file;
         ScoresBox scores(platform, "tessarine");
         scores.Start();
         EXPECT_EQ(Captions(scores.AllSessions), one.shown);
         EXPECT_EQ(platform.files["/run/tessarine.sco"], one.file) << "left alone until the next count";
         scores.SetWonSession(true);
-        EXPECT_NE(platform.files["/run/tessarine.sco"], one.file);
+        ScoresBox again(platform, "tessarine");
+        again.Start();
+        EXPECT_EQ(Captions(again.AllSessions), one.next);
+    }
+}
+
+TEST(ScoresTest, AFileThatCanNotBeReadIsNeverReplaced)
+{
+    const std::string file = ScrambleLine("14Mar2008 9 9 0 0 ") + "\r\n";
+    for (const bool atStart : {true, false}) {
+        HeadlessPlatform platform;
+        platform.files["/run/tessarine.sco"] = file;
+        ScoresBox scores(platform, "tessarine");
+        platform.ResetFileOperations(atStart ? 0 : 1, false, FileFault::Other);
+        scores.Start();
+        scores.SetWonSession(true);
+        EXPECT_EQ(platform.files["/run/tessarine.sco"], file) << atStart;
+        EXPECT_EQ(scores.AllSessions[1].Caption(), atStart ? "1" : "10");
     }
 }
 
