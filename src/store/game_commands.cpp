@@ -67,7 +67,7 @@ void GameCommands::cmdLoadGame_MouseUp()
     }
     Trouble notTaken;
     const Trouble notLoaded = WhileBusy(platform(), [&] {
-        const Trouble trouble = rooms_.gameFile.LoadCardOrder(name);
+        Trouble trouble = rooms_.gameFile.LoadCardOrder(name);
         if (!trouble) {
             rooms_.undo.Clear();
             notTaken = rooms_.snapshot.Take();

@@ -13,7 +13,7 @@ std::string Snapshot::Path() const
 
 Trouble Snapshot::Take()
 {
-    const Trouble trouble = gameFile_.SaveCardOrder(Path());
+    Trouble trouble = gameFile_.SaveCardOrder(Path());
     wasTaken_ = !trouble;
     return trouble;
 }
@@ -23,7 +23,7 @@ Trouble Snapshot::CopyTo(const std::string& target)
 {
     const std::string deal = gameFile_.Text();
     if (platform().ReadFile(Path()).text != deal) {
-        if (const Trouble trouble = Take()) {
+        if (Trouble trouble = Take()) {
             return trouble;
         }
     }
@@ -33,7 +33,7 @@ Trouble Snapshot::CopyTo(const std::string& target)
 Trouble Snapshot::Restore()
 {
     if (!wasTaken_ || !FileExists(platform(), Path())) {
-        if (const Trouble trouble = Take()) {
+        if (Trouble trouble = Take()) {
             return trouble;
         }
     }
