@@ -8,22 +8,6 @@ namespace tessarine
 namespace
 {
 
-TEST(Files, WhateverFailsTheOldFileOrTheNewOneIsThere)
-{
-    constexpr int operations = 4; // of a copy: the read, the place, the write, the rename
-    for (int failing = 0; failing <= operations; ++failing) {
-        for (const bool fromThere : {false, true}) {
-            HeadlessPlatform platform;
-            platform.files = {{"/run/from", "the new bytes"}, {"/run/to", "old"}};
-            platform.ResetFileOperations(failing, fromThere);
-            const bool copied = CopyFile(platform, "from", "to") == FileFault::None;
-            EXPECT_EQ(copied, failing == operations);
-            EXPECT_EQ(platform.files["/run/to"], copied ? "the new bytes" : "old") << failing;
-            EXPECT_EQ(platform.files.size(), 2U) << "something was left beside it, " << failing;
-        }
-    }
-}
-
 TEST(Files, GoWhereALinkLeadsAndSpareWhatIsProtected)
 {
     HeadlessPlatform platform;

@@ -295,26 +295,22 @@ TEST(DiskTest, WhateverFailsNothingIsLostAndWhatIsToldIsTrue)
 
 TEST(DiskTest, TellsWhichFileAndWhy)
 {
-    struct Case {
-        FileFault why;
-        std::string words;
-    };
-    const std::vector<Case> cases = {{FileFault::Full, "full"},
-                                     {FileFault::Forbidden, "protected"},
-                                     {FileFault::IsFolder, "folder"},
-                                     {FileFault::Missing, "not there"}};
-    for (const Case& one : cases) {
+    const std::vector<std::pair<FileFault, std::string>> cases = {{FileFault::Full, "full"},
+                                                                  {FileFault::Forbidden, "protected"},
+                                                                  {FileFault::IsFolder, "folder"},
+                                                                  {FileFault::Missing, "not there"}};
+    for (const auto& [why, words] : cases) {
         // The copy can't be written; the snapshot can neither be read nor written.
         for (const auto& [failing, file] :
              {std::pair{2, "/app/savedgame;01.gam"}, std::pair{0, "/app/tempgame.txt"}}) {
             GameWorld world;
             std::vector<std::string> told;
             Answer(world, "Ok", told);
-            world.platform.ResetFileOperations(failing, true, one.why);
+            world.platform.ResetFileOperations(failing, true, why);
             world.Press(world.form.cmdSaveGame);
             ASSERT_EQ(told.size(), 1U);
             EXPECT_NE(told[0].find(file), std::string::npos) << told[0];
-            EXPECT_NE(told[0].find(one.words), std::string::npos) << told[0];
+            EXPECT_NE(told[0].find(words), std::string::npos) << told[0];
         }
     }
 }
