@@ -12,132 +12,102 @@ namespace
 {
 
 using namespace std::chrono_literals;
+using Log = std::vector<std::string>;
 
-/// A sound server with players connected to it. A sound rings until Hush or the end of its player.
+/// A sound server, which a player finds only in the run that it was opened in.
 class Server
 {
 public:
     WavePlayerMaker Maker()
     {
-        return [this]() -> std::unique_ptr<WavePlayer> {
+        return [this] {
             ++opened;
-            std::this_thread::sleep_for(opening);
-            return runs > 0 ? std::make_unique<Player>(*this) : nullptr;
+            std::this_thread::sleep_for(50ms);
+            return run > 0 ? std::make_unique<Player>(*this) : nullptr;
         };
     }
-    /// What has begun, as soon as it is so many sounds or a second has passed.
-    std::vector<std::string> Begun(std::size_t count)
-    {
-        for (int tries = 0; tries < 1000 && (Copy().size() < count); ++tries) {
-            std::this_thread::sleep_for(1ms);
-        }
-        return Copy();
-    }
-    void Hush()
-    {
-        for (const auto& ended : std::exchange(ringing_, {})) {
-            ended();
-        }
-    }
-
-    std::atomic<int> runs = 1; ///< which run of the server this is; 0 for none
-    std::atomic<int> opened = 0;
-    std::chrono::milliseconds opening{0};
-    std::chrono::milliseconds length{-1}; ///< of a sound that ends by itself
-
-private:
-    class Player : public WavePlayer
-    {
-    public:
-        explicit Player(Server& server) : server_(server), run_(server.runs) {}
-        ~Player() override { server_.Hush(); }
-        bool Begin(const std::string& path, std::function<void()> ended) override
-        {
-            if (run_ != server_.runs) {
-                return false;
-            }
-            const std::lock_guard lock(server_.mutex_);
-            server_.begun_.push_back(path);
-            if (server_.length < 0ms) {
-                server_.ringing_.push_back(std::move(ended));
-            } else {
-                std::thread([length = server_.length, ended = std::move(ended)] {
-                    std::this_thread::sleep_for(length);
-                    std::fputs("heard out", stderr);
-                    ended();
-                }).detach();
-            }
-            return true;
-        }
-
-    private:
-        Server& server_;
-        int run_;
-    };
-    std::vector<std::string> Copy()
+    void Note(const std::string& what)
     {
         const std::lock_guard lock(mutex_);
-        return begun_;
+        log_.push_back(what);
+        std::fputs(what.c_str(), stderr);
+    }
+    Log Heard()
+    {
+        const std::lock_guard lock(mutex_);
+        return log_;
     }
 
+    std::atomic<int> run = 1; ///< 0: it is down
+    std::atomic<int> opened = 0;
+    std::chrono::milliseconds length = 100ms; ///< of every sound
+
+private:
+    struct Player : WavePlayer {
+        explicit Player(Server& itsServer) : server(itsServer), run(server.run) {}
+        bool Begin(const std::string& path, std::function<void()> ended) override
+        {
+            if (run != server.run) {
+                return false;
+            }
+            server.Note("begins " + path);
+            std::thread([this, path, ended = std::move(ended)] {
+                std::this_thread::sleep_for(server.length);
+                server.Note("ends " + path);
+                ended();
+            }).detach();
+            return true;
+        }
+        Server& server;
+        int run;
+    };
+
     std::mutex mutex_;
-    std::vector<std::string> begun_;
-    std::vector<std::function<void()>> ringing_;
+    Log log_;
 };
 
 TEST(SoundsTest, EverySoundBeginsBesideTheOthersAndNobodyWaits)
 {
     Server server;
-    server.opening = 50ms;
-    DesktopPlatform platform(server.Maker());
-    const std::vector<std::string> paths = {"/app/_menu.wav", "/app/_shuf.wav", "/app/_menu.wav"};
-    for (const std::string& path : paths) {
-        platform.PlayWave(path);
+    Sounds sounds(server.Maker());
+    for (const char* const path : {"menu", "shuffle", "menu"}) {
+        sounds.Play(path);
     }
-    EXPECT_TRUE(server.Begun(0).empty()) << "while the device is still being opened";
-    EXPECT_EQ(server.Begun(3), paths);
+    EXPECT_EQ(server.Heard(), Log{}) << "the device is still being opened";
+    sounds.Finish(5s);
+    Log heard = server.Heard();
+    ASSERT_EQ(heard.size(), 6U);
+    heard.resize(3);
+    EXPECT_EQ(heard, (Log{"begins menu", "begins shuffle", "begins menu"}));
     EXPECT_EQ(server.opened, 1);
 }
 
 TEST(SoundsTest, AServerThatIsStartedAnewIsFoundByTheNextSound)
 {
     Server server;
+    server.length = 0ms;
     Sounds sounds(server.Maker());
-    const auto play = [&](const std::string& path) {
-        sounds.Play(path);
-        sounds.Finish(30ms);
-    };
-    play("before");
-    server.runs = 2;
-    play("after a restart");
-    server.runs = 0;
-    play("while there is none");
-    server.runs = 3;
-    play("when it is back");
-    EXPECT_EQ(server.Begun(3),
-              (std::vector<std::string>{"before", "after a restart", "when it is back"}));
+    for (const int run : {1, 2, 0, 3}) {
+        server.run = run;
+        sounds.Play(std::to_string(run));
+        sounds.Finish(5s);
+    }
+    EXPECT_EQ(server.Heard(), (Log{"begins 1", "ends 1", "begins 2", "ends 2", "begins 3", "ends 3"}));
     EXPECT_EQ(server.opened, 4) << "one try for each sound that finds nobody";
 }
 
-TEST(SoundsTest, TheProgramEndsWhenItsLastSoundHasBeenHeard)
+TEST(SoundsTest, TheProgramEndsWhenItsLastSoundHasBeenHeardAndInAnyCase)
 {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
-    const auto end = [] {
+    const auto end = [](std::chrono::milliseconds length) {
         Server server;
-        server.opening = 50ms;
-        server.length = 100ms;
+        server.length = length;
         DesktopPlatform platform(server.Maker());
         platform.PlayWave("/app/_exit.wav");
         platform.EndProgram();
     };
-    EXPECT_EXIT(end(), testing::ExitedWithCode(EXIT_SUCCESS), "heard out");
-    const auto endUnheard = [] {
-        Server server; // with a sound that never ends
-        DesktopPlatform platform(server.Maker());
-        platform.PlayWave("/app/_exit.wav");
-        platform.EndProgram();
-    };
-    EXPECT_EXIT(endUnheard(), testing::ExitedWithCode(EXIT_SUCCESS), "");
+    EXPECT_EXIT(end(100ms), testing::ExitedWithCode(EXIT_SUCCESS), "ends /app/_exit.wav");
+    EXPECT_EXIT(end(1h), testing::ExitedWithCode(EXIT_SUCCESS), "begins /app/_exit.wav");
 }
 
 } // namespace

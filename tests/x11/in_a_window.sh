@@ -56,7 +56,7 @@ needs() {
 # A display of our own with a window manager on it.
 open_display() {
     local number
-    needs Xvfb openbox xdotool wmctrl xwininfo xwd convert
+    needs Xvfb openbox xdotool wmctrl xprop xwininfo xwd convert
     mkfifo "$home/number"
     Xvfb -displayfd 5 -screen 0 1280x1400x24 -nolisten tcp 5<>"$home/number" >"$home/xvfb.log" 2>&1 &
     started+=($!)
@@ -232,11 +232,27 @@ close_window() {
 }
 
 window() {
-    local title
+    local title before
     open_display
     start_first_time
     title=$(xdotool getwindowname "$window")
     [ "$title" = "Tessarine" ] || fail "the window's title is '$title'"
+    soon "the window has the table's width" size_is 264 514
+    soon "the window stands in the middle of the screen" is_in_the_middle_of "$window" 0 0 1280 1400
+    read -r -a before < <(outer_of "$window")
+    press 1 $((2 + 8 * 24 + 12)) 14
+    soon "a question" box_shows_buttons 2
+    soon "it stands in the middle of the window" is_in_the_middle_of "$box" "${before[@]}"
+    answer 2 2
+    soon "the question goes" box_is_gone
+    # The hand takes the right edge, and the corner stays where it is.
+    xdotool mousemove $((before[0] + before[2] - 1)) 700 sleep 0.1 mousedown 1 sleep 0.1 \
+        mousemove_relative 30 0 sleep 0.1 mousemove_relative 30 0 sleep 0.5 mouseup 1
+    soon "the hand makes it wider" is_wider_than 300
+    [[ $(outer_of "$window") == "${before[0]} ${before[1]} "* ]] || fail "the window jumps"
+    close_window
+    start_program
+    soon "the main window" main_window_is_open
     soon "the window has the table's width" size_is 264 514
     # A quarter wider: 4,080 twips to 5,100, and the window snaps to the 5,031 of the table.
     xdotool windowsize "$window" 332 514
@@ -248,6 +264,21 @@ window() {
     size_is 327 450 || fail "the window does not stay as it was left: $(size_of "$window")"
     close_window
 }
+# Left, top, width and height of a window with its frame.
+outer_of() {
+    local left right top bottom
+    read -r left right top bottom < <(xprop -id "$1" _NET_FRAME_EXTENTS | sed 's/.*= //; s/,//g')
+    xwininfo -id "$1" | awk -v l="$left" -v r="$right" -v t="$top" -v b="$bottom" '
+        /Absolute upper-left X/ { x = $4 } /Absolute upper-left Y/ { y = $4 }
+        /^ *Width/ { w = $2 } /^ *Height/ { print x - l, y - t, w + l + r, $2 + t + b }'
+}
+is_in_the_middle_of() { # window left top width height
+    local x y width height
+    read -r x y width height < <(outer_of "$1")
+    x=$((2 * (x - $2) + width - $4)) y=$((2 * (y - $3) + height - $5))
+    [ ${x#-} -le 1 ] && [ ${y#-} -le 1 ] # half a pixel
+}
+is_wider_than() { [ "$(size_of "$window" | cut -d ' ' -f 1)" -gt "$1" ]; }
 size_is() { [ "$(size_of "$window")" = "$1 $2" ]; }
 
 # Nothing happens, and so nothing is done.
