@@ -1,6 +1,8 @@
 #include "appearance/colour_picker.h"
 
-#include <cmath>
+#include <algorithm>
+#include <cstdlib>
+#include <optional>
 #include <utility>
 
 namespace tessarine
@@ -18,54 +20,57 @@ constexpr int LowerBarTop = 1175;
 constexpr int LowerBarBottom = 1375;
 /// A click from here down leaves the bars of shades as they are.
 constexpr int BarsBegin = 900;
-
-/// Far less than the distance of two lines: what arithmetic may lose on the way, in twips.
-constexpr Twips Hair = 0.001;
+/// How far the first and the last shade of a bar reach beyond their lines. Both ends are what a user
+/// aims at, and a pixel may be a little more than four units wide: so each has one of its own.
+constexpr int EndsReach = 4;
 
 constexpr int StartColour = 7;
 
-Twips Across(int units)
+/// A place in whole units of the drawing.
+struct Place {
+    Whole across = 0;
+    Whole down = 0;
+};
+
+Place PlaceOf(Point point)
 {
-    return units * ColPik::UnitAcross;
+    return {RoundHalfEven(point.x / ColPik::UnitAcross), RoundHalfEven(point.y / ColPik::UnitDown)};
 }
 
-Twips Down(int units)
+bool IsFromTo(Whole position, Whole first, Whole last)
 {
-    return units * ColPik::UnitDown;
+    return position >= first && position <= last;
 }
 
-void DrawPalette(Canvas& canvas)
+/// None in a gap.
+std::optional<Colour> CellAt(Place place)
 {
     for (int row = 1; row <= PaletteRows; ++row) {
         for (int column = 1; column <= PaletteColumns; ++column) {
-            canvas.FillBox({Across(65 * column - 55), Down(225 * row - 195)},
-                           {Across(65 * column), Down(225 * row + 5)},
-                           PaletteColour(PaletteColumns * (row - 1) + (column - 1)));
+            if (IsFromTo(place.across, 65 * column - 55, 65 * column) &&
+                IsFromTo(place.down, 225 * row - 195, 225 * row + 5)) {
+                return PaletteColour(PaletteColumns * (row - 1) + (column - 1));
+            }
         }
     }
+    return std::nullopt;
 }
 
-using Shade = Colour (*)(Colour, Whole);
-
-void DrawBarLine(Canvas& canvas, int top, int bottom, Colour colour, Whole level, Shade shade)
+/// The one drawing of the control, for whoever paints it and for whoever takes a colour from it.
+Colour ColourAt(Point point, Colour ofBars)
 {
-    const Twips x = Across(BarLeft + level);
-    canvas.DrawLine({x, Down(top)}, {x, Down(bottom)}, shade(colour, level));
-}
-
-/// Several lines share a pixel of the screen, and the one drawn last shows. Both ends of a bar are what
-/// a user aims at, so the first line comes after its neighbours and the last line after all.
-void DrawBar(Canvas& canvas, int top, int bottom, Colour colour, Shade shade)
-{
-    for (Whole level = ColPik::FullLevel - 1; level >= 0; --level) {
-        DrawBarLine(canvas, top, bottom, colour, level, shade);
+    const Place place = PlaceOf(point);
+    const Whole line = place.across - BarLeft;
+    const Whole level = std::clamp(line, 0, ColPik::FullLevel);
+    if (std::abs(line - level) <= EndsReach) {
+        if (IsFromTo(place.down, UpperBarTop, UpperBarBottom)) {
+            return ColPik::clrBlackness(ofBars, level);
+        }
+        if (IsFromTo(place.down, LowerBarTop, LowerBarBottom)) {
+            return ColPik::clrWhiteness(ofBars, level);
+        }
     }
-    DrawBarLine(canvas, top, bottom, colour, ColPik::FullLevel, shade);
-}
-
-bool LiesOn(Twips y, int top, int bottom)
-{
-    return y >= Down(top) - Hair && y <= Down(bottom) + Hair;
+    return CellAt(place).value_or(White);
 }
 
 } // namespace
@@ -212,9 +217,7 @@ void ColPik::DrawBarsFor(Colour colour)
 
 void ColPik::Draw(Canvas& canvas) const
 {
-    DrawPalette(canvas);
-    DrawBar(canvas, UpperBarTop, UpperBarBottom, barColour_, clrBlackness);
-    DrawBar(canvas, LowerBarTop, LowerBarBottom, barColour_, clrWhiteness);
+    canvas.Shade([ofBars = barColour_](Point point) { return ColourAt(point, ofBars); });
 }
 
 void ColPik::MouseReleased(const MouseEvent& event)
@@ -224,27 +227,12 @@ void ColPik::MouseReleased(const MouseEvent& event)
     if (!inside || FrontMostAt(event.x, event.y) != nullptr) {
         return;
     }
-    const Colour colour = ColourUnder({event.x, event.y});
-    RedrawBars = event.y < Down(BarsBegin) - Hair;
+    const Point point{event.x, event.y};
+    const Colour colour = ColourAt(point, barColour_);
+    RedrawBars = PlaceOf(point).down < BarsBegin;
     ShowColor(colour);
     RedrawBars = true;
     Raise(colour);
-}
-
-/// A point on a line of a bar takes that line's shade. Any other takes what its pixel shows: the lines
-/// stand closer than the pixels of the screen, and a user takes the shade that is seen.
-Colour ColPik::ColourUnder(Point point) const
-{
-    const Whole level = RoundHalfEven(point.x / UnitAcross) - BarLeft;
-    const bool onLine =
-        level >= 0 && level <= FullLevel && std::abs(point.x - Across(BarLeft + level)) < Hair;
-    if (onLine && LiesOn(point.y, UpperBarTop, UpperBarBottom)) {
-        return clrBlackness(barColour_, level);
-    }
-    if (onLine && LiesOn(point.y, LowerBarTop, LowerBarBottom)) {
-        return clrWhiteness(barColour_, level);
-    }
-    return Drawing().ColourAt(point, TwipsPerPixel);
 }
 
 void ColPik::Raise(Colour colour)

@@ -67,7 +67,6 @@ private:
     Colour ColourOfBars() const;
     void ShowColor(Colour colour);
     void DrawBarsFor(Colour colour);
-    Colour ColourUnder(Point point) const;
     void Raise(Colour colour);
 
     bool RedrawBars = true;    ///< whether ShowColor draws the bars of shades anew

@@ -22,9 +22,6 @@ void PageView::doSetSource(const QUrl& url, QTextDocument::ResourceType type)
 {
     QTextBrowser::doSetSource(url, type);
     CentreColumn();
-    if (url.hasFragment()) {
-        scrollToAnchor(url.fragment(QUrl::FullyDecoded)); // which may have moved
-    }
 }
 
 /// Scaled with care here, since the page itself is drawn with the fastest means.

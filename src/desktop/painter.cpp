@@ -39,7 +39,7 @@ QRegion InDevicePixels(const QRegion& region, double ratio, const QRect& all)
 } // namespace
 
 Painter::Painter(QWidget& widget, const QRegion& region, Typesetter& typesetter)
-    : painter_(&widget), typesetter_(typesetter)
+    : painter_(&widget), typesetter_(typesetter), widget_(widget)
 {
     const QTransform toDevice = painter_.deviceTransform();
     ratio_ = toDevice.m11();
@@ -47,6 +47,7 @@ Painter::Painter(QWidget& widget, const QRegion& region, Typesetter& typesetter)
     const QPoint corner(NearestPixel(toDevice.dx()), NearestPixel(toDevice.dy()));
     all_ = QRect(0, 0, NearestPixel(toDevice.dx() + widget.width() * ratio_) - corner.x(),
                  NearestPixel(toDevice.dy() + widget.height() * ratio_) - corner.y());
+    corner_ = QPointF(toDevice.dx(), toDevice.dy()) - corner;
     dirty_ = InDevicePixels(region, ratio_, all_);
     painter_.setWorldTransform(QTransform::fromTranslate(corner.x(), corner.y()) * toDevice.inverted());
 }
@@ -167,6 +168,8 @@ void Painter::PaintInk(const Ink& ink, QPoint pen, const QRect& within)
 void Painter::PaintDrawing(const UserControl& control)
 {
     const Canvas& canvas = control.Drawing();
+    const Point place = control.PlaceOnForm();
+    place_ = QPointF(place.x, place.y) * PixelsPerTwip;
     for (const QRect& rect : dirty_) {
         painter_.fillRect(rect, ToQColor(canvas.Background()));
     }
@@ -195,14 +198,22 @@ void Painter::Paint(const Canvas::Line& line)
     painter_.fillRect(rect, ToQColor(line.colour));
 }
 
-void Painter::Paint(const Canvas::Box& box)
+/// A place of the widget's window, in logical pixels, and the same place of the form are one.
+void Painter::Paint(const Canvas::Shading& shading)
 {
-    // Upwards, so that a pixel belongs to the box if its upper left corner does: a click on it finds
-    // the colour that shows.
-    const auto edge = [this](Twips position) { return static_cast<int>(std::ceil(position * scale_)); };
-    const QRect rect(QPoint(edge(box.upperLeft.x), edge(box.upperLeft.y)),
-                     QPoint(edge(box.lowerRight.x) - 1, edge(box.lowerRight.y) - 1));
-    painter_.fillRect(rect, ToQColor(box.colour));
+    const QPointF origin =
+        corner_ - (QPointF(widget_.mapTo(widget_.window(), QPoint())) - place_) * ratio_;
+    for (const QRect& rect : dirty_) {
+        QImage image(rect.size(), QImage::Format_RGB32);
+        for (int y = 0; y < rect.height(); ++y) {
+            for (int x = 0; x < rect.width(); ++x) {
+                const QPointF pixel = rect.topLeft() + QPoint(x, y) - origin;
+                image.setPixelColor(
+                    x, y, ToQColor(shading.colourAt({pixel.x() / scale_, pixel.y() / scale_})));
+            }
+        }
+        painter_.drawImage(rect.topLeft(), image);
+    }
 }
 
 void Painter::Paint(const Canvas::Text& text)

@@ -44,15 +44,18 @@ private:
     void PaintText(const Label& label, const QRect& inside);
     void PaintInk(const Ink& ink, QPoint pen, const QRect& within);
     void Paint(const Canvas::Line& line);
-    void Paint(const Canvas::Box& box);
+    void Paint(const Canvas::Shading& shading);
     void Paint(const Canvas::Text& text);
     void Paint(const Canvas::Drawing& drawing);
 
     QPainter painter_;
     Typesetter& typesetter_;
+    QWidget& widget_;
     double ratio_ = 1; ///< pixels of the device per logical pixel
     double scale_ = 1; ///< pixels of the device per twip
     QRect all_;        ///< the widget
+    QPointF place_;    ///< of the control on its form, in logical pixels
+    QPointF corner_;   ///< of the widget, from that of its first pixel, in pixels
     QRegion dirty_;    ///< at least what has to be painted
 };
 

@@ -9,6 +9,8 @@
 #include <QMouseEvent>
 #include <QPaintEvent>
 
+#include <cmath>
+
 namespace tessarine
 {
 namespace
@@ -19,6 +21,24 @@ int ShiftKeys(Qt::KeyboardModifiers modifiers)
     return (modifiers.testFlag(Qt::ShiftModifier) ? ShiftKey : 0) +
            (modifiers.testFlag(Qt::ControlModifier) ? ControlKey : 0) +
            (modifiers.testFlag(Qt::AltModifier) ? AltKey : 0);
+}
+
+/// Where the pointer is. The toolkit has rounded the place in the widget to logical pixels; the one in
+/// the window is exact, in events that come by way of the window.
+QPointF PlaceInWindow(const QWidget& widget, const QMouseEvent& event)
+{
+    const QPointF rounded = widget.mapTo(widget.window(), event.position());
+    const QPointF exact = event.scenePosition();
+    const QPointF lost = exact - rounded;
+    return std::abs(lost.x()) < 1 && std::abs(lost.y()) < 1 ? exact : rounded;
+}
+
+/// The upper left corner of the pixel of the screen in which a place of a window lies.
+QPointF PixelCorner(QPointF place, double ratio)
+{
+    // A place that is a corner may have lost a hair of it on the way here.
+    constexpr double hair = 1.0 / 1024;
+    return {std::floor(place.x() * ratio + hair) / ratio, std::floor(place.y() * ratio + hair) / ratio};
 }
 
 } // namespace
@@ -70,9 +90,9 @@ void Surface::paintEvent(QPaintEvent* event)
 
 MouseEvent Surface::AsTwips(const QMouseEvent& event) const
 {
-    const QPointF onForm = mapTo(window(), event.position());
-    return {ButtonNumber(event.button()), ShiftKeys(event.modifiers()), onForm.x() * TwipsPerPixel,
-            onForm.y() * TwipsPerPixel};
+    const QPointF corner = PixelCorner(PlaceInWindow(*this, event), devicePixelRatioF());
+    return {ButtonNumber(event.button()), ShiftKeys(event.modifiers()), corner.x() * TwipsPerPixel,
+            corner.y() * TwipsPerPixel};
 }
 
 void Surface::NotePointer(const QMouseEvent& event)

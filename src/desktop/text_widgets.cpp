@@ -3,11 +3,18 @@
 #include "desktop/text.h"
 #include "desktop/widgets.h"
 
-#include <QFile>
+#include <QAbstractTextDocumentLayout>
+#include <QApplication>
+#include <QElapsedTimer>
 #include <QFileInfo>
 #include <QMouseEvent>
 #include <QPlainTextEdit>
+#include <QScopedValueRollback>
+#include <QScrollBar>
+#include <QTextBlock>
 #include <QUrl>
+
+#include <utility>
 
 namespace tessarine
 {
@@ -38,35 +45,13 @@ protected:
     void mousePressEvent(QMouseEvent* event) override
     {
         event->accept();
-        const int button = event->button() == Qt::RightButton    ? RightButton
-                           : event->button() == Qt::MiddleButton ? MiddleButton
-                                                                 : LeftButton;
+        const int button = ButtonNumber(event->button());
         UserDoes([this, button] { static_cast<TextBox*>(TheControl())->UserPresses(button); });
     }
 
 private:
     QString text_; ///< as it was given: the widget makes other line ends of it
 };
-
-/// An address of the program: a path, and "#" and an anchor behind it or not.
-QUrl AsUrl(const std::string& address)
-{
-    const auto hash = address.find('#');
-    QUrl url = QUrl::fromLocalFile(ToText(address.substr(0, hash)));
-    if (hash != std::string::npos) {
-        url.setFragment(ToText(address.substr(hash + 1)), QUrl::DecodedMode);
-    }
-    return url;
-}
-
-std::string AsAddress(const QUrl& url)
-{
-    std::string address = ToBytes(url.toLocalFile());
-    if (url.hasFragment()) {
-        address += '#' + ToBytes(url.fragment(QUrl::FullyDecoded));
-    }
-    return address;
-}
 
 class BrowserWidget final : public PageView, public NativePeer
 {
@@ -75,9 +60,9 @@ public:
         : PageView(&parent), NativePeer(*this, browser, desk)
     {
         setOpenLinks(false); // the history is the control's
-        QObject::connect(this, &PageView::anchorClicked, this, [this](const QUrl& url) {
-            if (url.isLocalFile()) {
-                UserDoes([this, url] { Page().UserFollows(AsAddress(url)); });
+        QObject::connect(this, &PageView::anchorClicked, this, [this](const QUrl& link) {
+            if (!mouseIsUp_) {
+                Follow(link);
             }
         });
     }
@@ -99,26 +84,53 @@ protected:
     }
     void RefreshValue() override
     {
-        const std::string address = Page().LocationURL();
-        if (address.empty() || (loads_ == Page().Loads() && address == address_)) {
+        if (std::exchange(visits_, Page().Visits()) == Page().Visits()) {
             return;
         }
-        const bool loadsAnew = loads_ != Page().Loads();
-        loads_ = Page().Loads();
-        address_ = address;
-        const QUrl url = AsUrl(address);
-        if (!QFileInfo(url.toLocalFile()).isReadable()) {
-            setHtml(QStringLiteral("<p>The page could not be found:</p><p>") +
-                    url.toLocalFile().toHtmlEscaped() + QStringLiteral("</p>"));
-            return;
+        const Address address = Page().Location();
+        const QUrl page = QUrl::fromLocalFile(ToText(address.path));
+        if (std::exchange(loads_, Page().Loads()) != Page().Loads() || source() != page) {
+            beforeLoad_ = {pointer_, anchorAt(pointer_), QElapsedTimer()};
+            Load(page);
+            beforeLoad_.since.start();
         }
-        setSource(url);
-        if (loadsAnew) {
-            reload();
+        if (address.anchor.empty()) {
+            verticalScrollBar()->setValue(0);
+        } else {
+            scrollToAnchor(ToText(address.anchor));
         }
-        if (!url.hasFragment()) {
-            moveCursor(QTextCursor::Start);
-            ensureCursorVisible();
+    }
+    // The press that brings the form to the front makes the page start anew. What counts is the link
+    // that the user saw under the pointer.
+    void mousePressEvent(QMouseEvent* event) override
+    {
+        const QPoint place = event->position().toPoint();
+        const bool jumped = beforeLoad_.isOver(place);
+        link_ = event->button() != Qt::LeftButton ? QString()
+                : jumped                          ? beforeLoad_.link
+                                                  : anchorAt(place);
+        pressedAt_ = place;
+        if (Form* form = TheControl() == nullptr ? nullptr : Page().OwnerForm()) {
+            form->FeedActivation();
+        }
+        PageView::mousePressEvent(event);
+    }
+    void mouseMoveEvent(QMouseEvent* event) override
+    {
+        pointer_ = event->position().toPoint();
+        PageView::mouseMoveEvent(event);
+    }
+    void mouseReleaseEvent(QMouseEvent* event) override
+    {
+        {
+            const QScopedValueRollback up(mouseIsUp_, true);
+            PageView::mouseReleaseEvent(event);
+        }
+        const QPoint way = event->position().toPoint() - pressedAt_;
+        const QUrl link = source().resolved(QUrl(std::exchange(link_, {})));
+        if (event->button() == Qt::LeftButton &&
+            way.manhattanLength() < QApplication::startDragDistance()) {
+            Follow(link);
         }
     }
     void keyPressEvent(QKeyEvent* event) override
@@ -134,7 +146,49 @@ protected:
 private:
     Browser& Page() const { return *static_cast<Browser*>(TheControl()); }
 
-    std::string address_;
+    void Follow(const QUrl& link)
+    {
+        if (link.isLocalFile()) {
+            const Address address{ToBytes(link.toLocalFile()),
+                                  ToBytes(link.fragment(QUrl::FullyDecoded))};
+            UserDoes([this, address] { Page().UserFollows(address); });
+        }
+    }
+    /// Up to the end of its layout: what is further down has its place only then.
+    void Load(const QUrl& page)
+    {
+        if (!QFileInfo(page.toLocalFile()).isReadable()) {
+            setHtml(QStringLiteral("<p>The page could not be found:</p><p>") +
+                    page.toLocalFile().toHtmlEscaped() + QStringLiteral("</p>"));
+            return;
+        }
+        if (source() == page) {
+            reload();
+        } else {
+            setSource(page);
+        }
+        document()->documentLayout()->blockBoundingRect(document()->lastBlock());
+    }
+
+    /// What the pointer stood over when the page was loaded.
+    struct BeforeLoad {
+        QPoint pointer;
+        QString link;
+        QElapsedTimer since;
+
+        bool isOver(QPoint place) const
+        {
+            static constexpr int justNow = 300;
+            return place == pointer && since.isValid() && !since.hasExpired(justNow);
+        }
+    };
+
+    BeforeLoad beforeLoad_;
+    QPoint pointer_;
+    QPoint pressedAt_;
+    QString link_;           ///< that the mouse was pressed on
+    bool mouseIsUp_ = false; ///< being released: this class follows links of the mouse itself
+    int visits_ = 0;
     int loads_ = 0;
 };
 

@@ -32,18 +32,9 @@ Form4::Form4(Forms& forms, const Dress& dress) : Form(forms, "Tessarine Help", C
     WebBrowser1.SetBounds(60, 480, 7125, 5145);
     Add(WebBrowser1);
 
-    // The history is of use only among the anchors of the page; a step past its end does nothing.
-    Command1.MouseUp = [this](const MouseEvent&) {
-        if (ShowsAnchor()) {
-            WebBrowser1.GoBack();
-        }
-    };
-    Command2.MouseUp = [this](const MouseEvent&) {
-        if (ShowsAnchor()) {
-            WebBrowser1.GoForward();
-        }
-    };
-    command3.MouseUp = [this](const MouseEvent&) { Hide(); };
+    Command1.MouseUp = [this](const MouseEvent&) { Command1_Click(); };
+    Command2.MouseUp = [this](const MouseEvent&) { Command2_Click(); };
+    command3.MouseUp = [this](const MouseEvent&) { command3_Click(); };
     WebBrowser1.Describe = [] { return std::string("Help page"); };
     CancelControl = &command3;
     FirstControl = &WebBrowser1; // the page can be scrolled at once
@@ -68,6 +59,26 @@ void Form4::OnResize()
     if (height >= 0) {
         WebBrowser1.SetHeight(height);
     }
+}
+
+// The history is of use only among the anchors of the page; a step past its end does nothing.
+void Form4::Command1_Click()
+{
+    if (ShowsAnchor()) {
+        WebBrowser1.GoBack();
+    }
+}
+
+void Form4::Command2_Click()
+{
+    if (ShowsAnchor()) {
+        WebBrowser1.GoForward();
+    }
+}
+
+void Form4::command3_Click()
+{
+    Hide();
 }
 
 bool Form4::ShowsAnchor() const

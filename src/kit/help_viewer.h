@@ -26,6 +26,9 @@ protected:
     void OnResize() override;
 
 private:
+    void Command1_Click();
+    void Command2_Click();
+    void command3_Click();
     bool ShowsAnchor() const;
 
     const Dress& dress_;

@@ -5,6 +5,7 @@
 #include "runtime/picture.h"
 #include "runtime/units.h"
 
+#include <functional>
 #include <string>
 #include <variant>
 #include <vector>
@@ -13,7 +14,7 @@ namespace tessarine
 {
 
 /// What is drawn, in the order of drawing; a later stroke covers an earlier one. All positions are in
-/// twips from the upper left corner.
+/// twips from the upper left corner of the control.
 class Canvas
 {
 public:
@@ -23,10 +24,10 @@ public:
         Point to;
         Colour colour = Black;
     };
-    struct Box {
-        Point upperLeft;
-        Point lowerRight;
-        Colour colour = Black;
+    /// The colour of each point. A pixel of the screen shows that of its upper left corner, which is
+    /// also where a press on this pixel is.
+    struct Shading {
+        std::function<Colour(Point)> colourAt;
     };
     struct Text {
         Point upperLeft;
@@ -38,21 +39,17 @@ public:
         Point upperLeft;
         const Picture* picture = nullptr; ///< outlives the canvas
     };
-    using Stroke = std::variant<Line, Box, Text, Drawing>;
+    using Stroke = std::variant<Shading, Line, Text, Drawing>;
 
     void Clear(Colour background);
     void DrawLine(Point from, Point to, Colour colour);
-    void FillBox(Point upperLeft, Point lowerRight, Colour colour);
+    void Shade(std::function<Colour(Point)> colourAt);
     void Print(Point upperLeft, std::string text, const Font& font, Colour colour);
     /// Draws the picture at its own size. It must outlive what is drawn.
     void Paint(Point upperLeft, const Picture& picture);
 
     Colour Background() const { return background_; }
     const std::vector<Stroke>& Strokes() const { return strokes_; }
-
-    /// The colour that shows in the screen pixel at a point: the last line or box drawn there, or the
-    /// background. `pixel` is the side of a screen pixel in twips. Texts and pictures do not count.
-    Colour ColourAt(Point point, Twips pixel) const;
 
 private:
     Colour background_ = ButtonFace;

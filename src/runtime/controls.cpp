@@ -156,53 +156,68 @@ void TextBox::UserPresses(int button)
     }
 }
 
-std::string Browser::LocationURL() const
+Address Browser::Location() const
 {
-    return history_.empty() ? std::string() : history_[place_];
+    return history_.empty() ? Address() : history_[place_];
 }
 
-void Browser::Visit(const std::string& address)
+std::string Browser::LocationURL() const
 {
-    if (LocationURL() != address) {
+    const Address address = Location();
+    std::string text;
+    for (const char c : address.path) {
+        text += c == '#' ? "%23" : c == '%' ? "%25" : std::string(1, c);
+    }
+    return address.anchor.empty() ? text : text + '#' + address.anchor;
+}
+
+void Browser::Visit()
+{
+    ++visits_;
+    Touch();
+}
+
+void Browser::GoTo(const Address& address)
+{
+    if (Location() != address) {
         if (!history_.empty()) {
             history_.resize(place_ + 1);
         }
         history_.push_back(address);
         place_ = history_.size() - 1;
     }
-    Touch();
+    Visit();
 }
 
-void Browser::Navigate(const std::string& address)
+void Browser::Navigate(const std::string& path)
 {
     ++loads_;
-    Visit(address);
+    GoTo({path, {}});
+}
+
+bool Browser::Step(bool isThere, std::size_t place)
+{
+    if (isThere) {
+        place_ = place;
+        Visit();
+    }
+    return isThere;
 }
 
 bool Browser::GoBack()
 {
-    if (place_ == 0) {
-        return false;
-    }
-    --place_;
-    Touch();
-    return true;
+    return Step(place_ > 0, place_ - 1);
 }
 
 bool Browser::GoForward()
 {
-    if (place_ + 1 >= history_.size()) {
-        return false;
-    }
-    ++place_;
-    Touch();
-    return true;
+    return Step(place_ + 1 < history_.size(), place_ + 1);
 }
 
-void Browser::UserFollows(const std::string& address)
+void Browser::UserFollows(const Address& address)
 {
     if (TakesInput()) {
-        Visit(address);
+        GoTo(address);
     }
 }
 

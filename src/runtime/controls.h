@@ -262,31 +262,45 @@ private:
     std::string text_;
 };
 
-/// Shows a page of hypertext and keeps the history of the addresses that were on show. An address is
-/// the path of a file, with "#" and the name of an anchor behind it or not.
+/// A place in a page of hypertext.
+struct Address {
+    std::string path;   ///< of the page's file
+    std::string anchor; ///< the name of a place on it; empty for its top
+    bool operator==(const Address&) const = default;
+};
+
+/// Shows a page of hypertext and keeps the history of the addresses that were on show.
 class Browser : public Control
 {
 public:
     ControlKind Kind() const override { return ControlKind::Browser; }
     bool TakesFocus() const override { return true; }
 
-    /// Loads the address anew, from its top. The address on show is no new step of the history.
-    void Navigate(const std::string& address);
+    /// Loads the page anew, from its top. The address on show is no new step of the history.
+    void Navigate(const std::string& path);
     /// One step in the history; false at its end.
     bool GoBack();
     bool GoForward();
     /// The address on show; empty before the first.
+    Address Location() const;
+    /// The address on show as one text: a "#" stands before the anchor, and nowhere else. In the path
+    /// it is written "%23", and "%" is written "%25".
     std::string LocationURL() const;
+    /// Counts how often an address was gone to, be it the one on show: each time it is to be shown anew.
+    int Visits() const { return visits_; }
     /// Counts the loads, so that a platform knows when to load anew.
     int Loads() const { return loads_; }
     /// The user followed a link to this address.
-    void UserFollows(const std::string& address);
+    void UserFollows(const Address& address);
 
 private:
-    void Visit(const std::string& address);
+    void GoTo(const Address& address);
+    bool Step(bool isThere, std::size_t place);
+    void Visit();
 
-    std::vector<std::string> history_;
+    std::vector<Address> history_;
     std::size_t place_ = 0;
+    int visits_ = 0;
     int loads_ = 0;
 };
 

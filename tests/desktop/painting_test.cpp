@@ -1,3 +1,4 @@
+#include "appearance/colour_picker.h"
 #include "kit/box_button.h"
 #include "stage.h"
 #include "support/seen_contrast.h"
@@ -7,6 +8,7 @@
 #include <array>
 #include <deque>
 #include <map>
+#include <set>
 
 namespace tessarine
 {
@@ -45,19 +47,6 @@ QRect InsideBorder(const QRect& rect, double scale)
     const int border = NearestPixel(scale);
     return rect.adjusted(border, border, -border, -border);
 }
-
-class Palette : public UserControl
-{
-protected:
-    // As odd as positions can be: boxes that end between two pixels.
-    void Draw(Canvas& canvas) const override
-    {
-        for (int cell = 0; cell < 16; ++cell) {
-            const Twips at = 37.1 + 57.3 * cell;
-            canvas.FillBox({at, at}, {at + 204.3, 946.7}, PaletteColour(cell));
-        }
-    }
-};
 
 class PaintingTest : public DesktopTest
 {
@@ -144,19 +133,40 @@ TEST_F(PaintingTest, ADigitIsNeverCutOff)
     }
 }
 
-TEST_F(PaintingTest, AClickFindsTheColourThatADrawingShows)
+/// Runs at several scale factors of the whole program.
+TEST_F(PaintingTest, AClickTakesTheColourThatItsPixelShows)
 {
-    Palette palette;
-    palette.SetBounds(150, 270, 2025, 1635);
-    palette.SetBackColor(White);
-    Show({&palette});
-    for (const double scale : {1.0, 2.0}) {
-        const Twips pixel = TwipsPerPixel / scale;
-        const QRect wrong = Differing(Shown(palette, scale), [&](QPoint at) {
-            return palette.Drawing().ColourAt({at.x() * pixel, at.y() * pixel}, TwipsPerPixel);
-        });
-        EXPECT_TRUE(wrong.isEmpty()) << wrong.x() << ", " << wrong.y() << " at " << scale;
+    constexpr Colour base = Rgb(200, 100, 50);
+    ColPik picker;
+    picker.SetBounds(155, 277, 2025, 1635); // its corner is no whole pixel
+    Show({&picker});
+    picker.SetSchemeColor(base);
+    Events();
+    FormWindow& window = *platform.WindowOf(form);
+    const QImage shown = window.grab().toImage();
+    const double ratio = shown.devicePixelRatio();
+    const auto pixels = [ratio](Twips twips) { return NearestPixel(twips / TwipsPerPixel * ratio); };
+    const auto send = [&](QEvent::Type type, QPointF at) {
+        QMouseEvent event(type, at, at, Qt::LeftButton, Qt::LeftButton, {});
+        QCoreApplication::sendEvent(window.windowHandle(), &event);
+    };
+    QPoint wrong;
+    std::set<QRgb> inBar;
+    for (int y = pixels(300); y < pixels(277 + 1370); ++y) {
+        for (int x = pixels(170); x < pixels(155 + 1030); ++x) {
+            send(QEvent::MouseButtonPress, QPointF(x, y) / ratio);
+            send(QEvent::MouseButtonRelease, QPointF(x, y) / ratio);
+            if (Pixel(picker.SchemeColor()) != shown.pixel(x, y)) {
+                wrong = {x, y};
+            }
+            if (y == pixels(277 + 1050)) {
+                inBar.insert(shown.pixel(x, y));
+            }
+            picker.SetSchemeColor(base);
+        }
     }
+    EXPECT_TRUE(wrong.isNull()) << wrong.x() << ", " << wrong.y() << " at " << ratio;
+    EXPECT_TRUE(inBar.contains(Pixel(Black)) && inBar.contains(Pixel(base))) << "both ends can be seen";
 }
 
 /// The contrast of the colour that stands out most to the one that there is most of, near the middle.

@@ -114,7 +114,7 @@ public:
     bool TakesFocus() const override { return true; }
 
 protected:
-    void Draw(Canvas& canvas) const override { canvas.FillBox({0, 0}, {30, 30}, White); }
+    void Draw(Canvas& canvas) const override { canvas.DrawLine({0, 0}, {30, 0}, White); }
 };
 
 /// A form for the test to furnish and show, and a surface that it may put there.

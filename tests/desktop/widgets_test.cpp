@@ -1,8 +1,10 @@
 #include "desktop/text.h"
+#include "kit/help_viewer.h"
 #include "runtime/letters.h"
 #include "stage.h"
 
 #include <QAbstractItemView>
+#include <QDir>
 #include <QRadioButton>
 #include <QScrollBar>
 #include <QTemporaryDir>
@@ -19,6 +21,8 @@ namespace
 class WidgetsTest : public DesktopTest
 {
 protected:
+    Dress dress;
+
     template <class Widget> Widget& Native(const Control& control)
     {
         return dynamic_cast<Widget&>(WidgetOf(platform, control));
@@ -150,35 +154,75 @@ TEST_F(WidgetsTest, CaseIsFoldedAsTheToolkitFoldsIt)
     }
 }
 
-TEST_F(WidgetsTest, APageIsLoadedAnewAndItsLinksGoThroughTheHistory)
+TEST_F(WidgetsTest, APageIsLoadedAnewAndEveryVisitShows)
 {
     const QTemporaryDir folder;
-    const std::string page = folder.path().toStdString() + "/a page.htm";
-    Browser browser;
-    browser.SetBounds(60, 480, 5000, 3000);
-    Show({&browser});
+    const std::string page = folder.path().toStdString() + "/#1";
+    ASSERT_TRUE(QDir().mkdir(ToText(page)));
+    Form4 help(forms, dress);
+    help.Tag = page + "/a page.htm";
+    const auto write = [&](const std::string& words) {
+        std::string lines;
+        for (int line = 0; line < 400; ++line) {
+            lines += "<p>line</p>";
+        }
+        std::ofstream(help.Tag) << "<p><a href='#end'>" << words << "</a></p>" << lines
+                                << "<p><a name='end'></a><a href='#end'>again</a></p>" << lines;
+    };
+    const auto show = [&](Form& shown) {
+        shown.Show();
+        Events();
+    };
+    write("before");
+    show(form);
+    show(help);
+    Browser& browser = help.WebBrowser1;
     auto& text = Native<QTextBrowser>(browser);
     const auto top = [&] { return text.verticalScrollBar()->value(); };
-    const auto open = [&](const std::string& words) {
-        std::ofstream(page) << "<p><a href='#end'>" << words << "</a></p>" << std::string(20000, 'x')
-                            << "<p><a name='end'>end</a></p>";
-        browser.Navigate(page);
-        Events();
-        EXPECT_TRUE(text.toPlainText().startsWith(words.c_str()));
-        EXPECT_EQ(top(), 0);
+    EXPECT_TRUE(text.toPlainText().startsWith("before"));
+    const auto placeOf = [&](const char* link) {
+        const QTextCursor found = text.document()->find(QString::fromLatin1(link));
+        return text.viewport()->mapTo(&text, text.cursorRect(found).center() - QPoint(8, 0));
     };
-    open("before");
-    QTextCursor onLink(text.document());
-    onLink.setPosition(2);
-    hand.Click(browser, text.viewport()->mapTo(&text, text.cursorRect(onLink).center()));
-    Events();
-    EXPECT_EQ(browser.LocationURL(), page + "#end");
-    EXPECT_GT(top(), 0);
+    const auto click = [&](const char* link) {
+        hand.Click(browser, placeOf(link));
+        Events();
+        return top();
+    };
+    const int end = click("before");
+    EXPECT_GT(end, 500);
+    EXPECT_EQ(browser.Location(), (Address{help.Tag, "end"}));
+    text.verticalScrollBar()->setValue(end - 30);
+    EXPECT_EQ(click("again"), end) << "a second time";
     browser.GoBack();
     Events();
     EXPECT_EQ(top(), 0);
     browser.GoForward();
-    open("after");
+
+    // A link that brings the page to the front is followed, however the load falls between.
+    for (const int turn : {0, 1, 2}) {
+        write("after" + std::to_string(turn));
+        browser.UserFollows({help.Tag, "end"});
+        Events();
+        form.FeedActivation();
+        text.verticalScrollBar()->setValue(end - 30);
+        const QPoint place = placeOf("again");
+        hand.Move(browser, place);
+        if (turn == 1) {
+            help.FeedActivation();
+            Events();
+            EXPECT_EQ(top(), 0);
+        }
+        hand.Press(browser, place);
+        if (turn == 2) {
+            Events();
+        }
+        hand.Release(browser, place);
+        help.FeedActivation();
+        Events();
+        EXPECT_EQ(top(), end) << turn;
+        EXPECT_TRUE(text.toPlainText().startsWith(ToText("after" + std::to_string(turn))));
+    }
 }
 
 } // namespace

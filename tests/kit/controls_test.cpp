@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <string>
 #include <vector>
 
@@ -34,7 +35,23 @@ struct OnAForm : testing::Test {
         form.Show();
     }
 
-    Colour At(Twips x, Twips y) const { return button.Drawing().ColourAt({x, y}, TwipsPerPixel); }
+    /// What shows there: a line fills the pixel in which it lies.
+    Colour At(Twips x, Twips y) const
+    {
+        Colour shown = button.Drawing().Background();
+        for (const Canvas::Stroke& stroke : button.Drawing().Strokes()) {
+            const auto* line = std::get_if<Canvas::Line>(&stroke);
+            const auto covers = [](Twips from, Twips to, Twips at) {
+                const auto pixel = [](Twips twips) { return std::floor(twips / TwipsPerPixel); };
+                return pixel(from) <= pixel(at) && pixel(at) <= pixel(to);
+            };
+            if (line != nullptr && covers(line->from.x, line->to.x, x) &&
+                covers(line->from.y, line->to.y, y)) {
+                shown = line->colour;
+            }
+        }
+        return shown;
+    }
 
     std::string Choose(const std::string& answer, std::string_view kind = "SAVE")
     {

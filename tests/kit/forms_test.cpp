@@ -119,7 +119,7 @@ TEST_F(MessageBox, IsLeftByItsButtonsAloneAndLetsEventsRun)
 TEST_F(KitForms, LoadTheirPageAndWearTheColoursOfTheMomentAtEachActivation)
 {
     help.Show();
-    page.UserFollows("page.htm#rules");
+    page.UserFollows({"page.htm", "rules"});
     dress.SchemeColors[BackgroundSlot] = White;
     table.FeedActivation();
     EXPECT_EQ(help.BackColor(), Black) << "not before its next activation";
@@ -141,16 +141,20 @@ TEST_F(KitForms, HelpStepsThroughItsHistoryOnlyFromAnAnchor)
         return page.LocationURL();
     };
     page.Navigate("page.htm"); // the same address is no new step
-    page.UserFollows("page.htm#one");
-    page.UserFollows("page.htm#two");
+    page.UserFollows({"page.htm", "one"});
+    page.UserFollows({"page.htm", "two"});
     after(help.Command1);
-    page.UserFollows("page.htm#three"); // what lay ahead is gone
+    page.UserFollows({"page.htm", "three"}); // what lay ahead is gone
     EXPECT_EQ(after(help.Command1), "page.htm#one");
     EXPECT_EQ(after(help.Command2), "page.htm#three");
     EXPECT_EQ(after(help.Command2), "page.htm#three");
     after(help.Command1);
     EXPECT_EQ(after(help.Command1), "page.htm");
     EXPECT_EQ(after(help.Command2), "page.htm") << "a step forward, but no anchor on show";
+    page.Navigate("/100%/#1/page.htm"); // that is no anchor
+    EXPECT_EQ(after(help.Command1), "/100%25/%231/page.htm");
+    page.UserFollows({"/100%/#1/page.htm", "one"});
+    EXPECT_EQ(page.LocationURL(), "/100%25/%231/page.htm#one");
 }
 
 TEST_F(KitForms, HelpFitsItsPageToTheWindowWhereThatIsPossible)

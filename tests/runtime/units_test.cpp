@@ -1,4 +1,3 @@
-#include "runtime/canvas.h"
 #include "runtime/contrast.h"
 #include "runtime/letters.h"
 #include "runtime/text_list.h"
@@ -93,23 +92,6 @@ TEST(Contrast, TextCanBeReadOnEveryGround)
     }
     EXPECT_EQ(TextColour(Black, Rgb(28, 28, 28)), Rgb(28, 28, 28)) << "a colour that is meant";
     EXPECT_EQ(TextColour(ButtonFace, WindowText), Black);
-}
-
-TEST(Canvas, ThePixelShowsWhatWasDrawnOnItLast)
-{
-    constexpr Colour red = Rgb(255, 0, 0);
-    Canvas canvas;
-    const auto at = [&](Twips x, Twips y) { return canvas.ColourAt({x, y}, TwipsPerPixel); };
-    canvas.Clear(ButtonFace);
-    canvas.FillBox({30, 30}, {90, 90}, White);
-    EXPECT_EQ(at(30, 89.9), White);
-    EXPECT_EQ(at(90, 60), TranslateColor(ButtonFace));
-    canvas.DrawLine({75, 44}, {45, 44}, red); // on the pixels from 30 up to 45, either way round
-    EXPECT_EQ(at(46, 30), red);
-    EXPECT_EQ(at(60, 44.9), red);
-    EXPECT_EQ(at(60, 45), White);
-    canvas.FillBox({45, 30}, {60, 45}, SystemColour(77)); // there is no such colour
-    EXPECT_EQ(at(50, 40), Black);
 }
 
 } // namespace
