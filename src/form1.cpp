@@ -18,8 +18,7 @@ Form1::Form1(Platform& platform, const std::string& programPath, const std::stri
       configuration(platform, shared.AppDir, shared, msgForm), gameFile(table, deal, scaling, ring),
       snapshot(table, gameFile),
       gameCommands({table, deal, scaling, ring, undo, gameFile, snapshot, Score1, msgForm, gf1}),
-      schemeStore(shared, msgForm),
-      form6(list, shared, schemeStore, msgForm, sound, [this] { Command2_Click(); }),
+      schemeStore(shared, msgForm), form6(list, shared, schemeStore, msgForm, sound, Command2),
       programCommands({*this, form6, form4, aboutForm, msgForm, configuration, Score1, shared, sound})
 {
     shared.AppDir = WithSeparator(platform, programPath);
@@ -49,6 +48,9 @@ void Form1::PlaceControls()
     Score1.SetBounds(places::ScoresLeft, places::ScoresTop, places::ScoresWidth, places::ScoresHeight);
     Add(gf1);
     gf1.SetVisible(false);
+    Add(Command2);
+    Command2.SetCaption("Command2Trigger");
+    Command2.SetVisible(false);
 }
 
 void Form1::PlaceCommandRow()
@@ -98,6 +100,7 @@ void Form1::ConnectButtons()
     onPress(cmdundo, [this] { undo.Pressed(); });
     onPress(NextCard[0], [this] { ring.PrevPressed(); });
     onPress(NextCard[1], [this] { ring.NextPressed(); });
+    onPress(Command2, [this] { Command2_Click(); });
     Score1.OnCloseButton = [this] { Score1.SetVisible(false); };
 }
 

@@ -73,6 +73,7 @@ public:
     std::array<BoxControl, 2> NextCard; ///< beside the stock: backwards, forwards
     ScoresBox Score1;
     FNDialog gf1;
+    PushButton Command2; ///< out of the user's reach: the options dialog presses it
 
     Undo undo;
     Deal deal;
@@ -104,7 +105,7 @@ private:
     void Form_Load();
     void DressMessageBox();
     void TakePlacesOfStacks();
-    /// The press of the hidden trigger: the table wears the active scheme.
+    /// The table wears the active scheme.
     void Command2_Click();
     SchemeWearers Wearers();
 };

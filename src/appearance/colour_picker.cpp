@@ -136,9 +136,9 @@ void ColPik::NameParts()
 
 void ColPik::HearBars()
 {
-    hsrRed.OnChange = [this] { BarChanged(Channel::Red); };
-    hsrGreen.OnChange = [this] { BarChanged(Channel::Green); };
-    hsrBlue.OnChange = [this] { BarChanged(Channel::Blue); };
+    hsrRed.OnChange = [this] { hsrRed_Change(); };
+    hsrGreen.OnChange = [this] { hsrGreen_Change(); };
+    hsrBlue.OnChange = [this] { hsrBlue_Change(); };
 }
 
 void ColPik::Resized()
@@ -156,7 +156,7 @@ void ColPik::SetSchemeColor(Colour New_SchemeColor)
     ShowColor(New_SchemeColor);
 }
 
-/// Setting a bar runs BarChanged, and that this function again, before the next bar is set.
+/// Setting a bar runs its change handler, and that this function again, before the next bar is set.
 void ColPik::ShowColor(Colour colour)
 {
     const Colour plain = TranslateColor(colour);
@@ -169,10 +169,25 @@ void ColPik::ShowColor(Colour colour)
     }
 }
 
-void ColPik::BarChanged(Channel channel)
+void ColPik::hsrRed_Change()
+{
+    BarChanged(PicRGB[0], Rgb(hsrRed.Value(), 0, 0));
+}
+
+void ColPik::hsrGreen_Change()
+{
+    BarChanged(PicRGB[1], Rgb(0, hsrGreen.Value(), 0));
+}
+
+void ColPik::hsrBlue_Change()
+{
+    BarChanged(PicRGB[2], Rgb(0, 0, hsrBlue.Value()));
+}
+
+void ColPik::BarChanged(Label& channel, Colour pure)
 {
     ShowDegrees();
-    ShowChannel(channel);
+    channel.SetBackColor(pure);
     const Colour colour = ColourOfBars();
     Label1.SetBackColor(colour);
     if (RedrawBars) {
@@ -186,21 +201,6 @@ void ColPik::ShowDegrees()
     lblRedDegree.SetCaption(std::to_string(hsrRed.Value()));
     lblGreenDegree.SetCaption(std::to_string(hsrGreen.Value()));
     lblBlueDegree.SetCaption(std::to_string(hsrBlue.Value()));
-}
-
-void ColPik::ShowChannel(Channel channel)
-{
-    switch (channel) {
-    case Channel::Red:
-        PicRGB[0].SetBackColor(Rgb(hsrRed.Value(), 0, 0));
-        break;
-    case Channel::Green:
-        PicRGB[1].SetBackColor(Rgb(0, hsrGreen.Value(), 0));
-        break;
-    case Channel::Blue:
-        PicRGB[2].SetBackColor(Rgb(0, 0, hsrBlue.Value()));
-        break;
-    }
 }
 
 Colour ColPik::ColourOfBars() const

@@ -56,14 +56,15 @@ protected:
     void Resized() override;
 
 private:
-    enum class Channel { Red, Green, Blue };
-
     void PlaceParts();
     void NameParts();
     void HearBars();
-    void BarChanged(Channel channel);
+    void hsrRed_Change();
+    void hsrGreen_Change();
+    void hsrBlue_Change();
+    /// What the three have in common; `pure` is the value of the bar alone.
+    void BarChanged(Label& channel, Colour pure);
     void ShowDegrees();
-    void ShowChannel(Channel channel);
     Colour ColourOfBars() const;
     void ShowColor(Colour colour);
     void DrawBarsFor(Colour colour);

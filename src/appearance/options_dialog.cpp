@@ -30,17 +30,17 @@ void PlaceButton(Container& on, BoxControl& button, const char* caption, Twips l
 } // namespace
 
 Form6::Form6(Forms& forms, Module1& module, SchemeStore& store, MsgForm& messageBox, const Sound& sound,
-             std::function<void()> command2)
+             PushButton& command2)
     : Form(forms, "Tessarine Options", ClientArea), module_(module), store_(store),
-      messageBox_(messageBox), sound_(sound), command2_(std::move(command2)),
+      messageBox_(messageBox), sound_(sound), command2_(command2),
       commands_(forms.platform(), module, store, List1)
 {
     PlaceControls();
     NameControls();
     List2.FillWhenAsked([this] { return platform().ScreenFonts(); });
     // The pickers took their first colour while they were placed, with nobody listening.
-    HearSchemeGroup();
-    HearOthers();
+    ConnectSchemeGroup();
+    ConnectOthers();
     CancelControl = &command4;
     FirstControl = &List1;
 }
@@ -127,32 +127,28 @@ void Form6::NameControls()
     name(NumCol[NumbersOption], "Colour of the numbers");
 }
 
-void Form6::HearSchemeGroup()
+void Form6::ConnectSchemeGroup()
 {
-    ColPik1.SelColor = [this](Colour colour) { module_.SchemeColors[BackgroundSlot] = colour; };
-    ContrastV.OnChange = [this] {
-        if (ContrastV.Tag != Silent) {
-            PreviewMadeScheme();
-        }
-    };
-    List1.MouseUp = [this](const MouseEvent&) { PreviewSelectedScheme(); };
-    showsch.MouseUp = [this](const MouseEvent&) { PreviewMadeScheme(); };
-    repsch.MouseUp = [this](const MouseEvent&) { commands_.Replace(); };
-    delsch.MouseUp = [this](const MouseEvent&) { commands_.Delete(); };
-    addsch.MouseUp = [this](const MouseEvent&) { commands_.Add(); };
+    ColPik1.SelColor = [this](Colour colour) { ColPik1_SelColor(colour); };
+    ContrastV.OnChange = [this] { ContrastV_Change(); };
+    List1.MouseUp = [this](const MouseEvent&) { List1_MouseUp(); };
+    showsch.MouseUp = [this](const MouseEvent&) { showsch_MouseUp(); };
+    repsch.MouseUp = [this](const MouseEvent&) { commands_.repsch_MouseUp(); };
+    delsch.MouseUp = [this](const MouseEvent&) { commands_.delsch_MouseUp(); };
+    addsch.MouseUp = [this](const MouseEvent&) { commands_.addsch_MouseUp(); };
 }
 
-void Form6::HearOthers()
+void Form6::ConnectOthers()
 {
-    ColPik2.SelColor = [this](Colour colour) { TakeCardColour(colour); };
+    ColPik2.SelColor = [this](Colour colour) { ColPik2_SelColor(colour); };
     for (std::size_t option = 0; option < NumColCount; ++option) {
-        NumCol[option].MouseUp = [this, option](const MouseEvent&) { EditColourOf(option); };
+        NumCol[option].MouseUp = [this, option](const MouseEvent&) { NumCol_MouseUp(option); };
     }
-    List2.MouseUp = [this](const MouseEvent&) { ShowSelectedFont(); };
-    Check1.MouseUp = [this](const MouseEvent&) { SwitchSound(); };
-    cmdreset.MouseUp = [this](const MouseEvent&) { Reset(); };
-    command3.MouseUp = [this](const MouseEvent&) { Apply(); };
-    command4.MouseUp = [this](const MouseEvent&) { Hide(); };
+    List2.MouseUp = [this](const MouseEvent&) { List2_MouseUp(); };
+    Check1.MouseUp = [this](const MouseEvent&) { Check1_MouseUp(); };
+    cmdreset.MouseUp = [this](const MouseEvent&) { cmdreset_MouseUp(); };
+    command3.MouseUp = [this](const MouseEvent&) { command3_MouseUp(); };
+    command4.MouseUp = [this](const MouseEvent&) { command4_MouseUp(); };
 }
 
 void Form6::OnActivate()
@@ -205,7 +201,7 @@ void Form6::ShowNumColours()
 
 /// With the slider away from the plain contrast, putting it back runs the other preview in here, which
 /// makes the colours anew from the background just read.
-void Form6::PreviewSelectedScheme()
+void Form6::List1_MouseUp()
 {
     const Colour background = store_.PreviewScheme(List1.SelectedText().append(SchemeSuffix));
     ColPik1.SetSchemeColor(background);
@@ -213,13 +209,26 @@ void Form6::PreviewSelectedScheme()
     PaintOptions();
 }
 
-void Form6::PreviewMadeScheme()
+void Form6::ContrastV_Change()
+{
+    if (ContrastV.Tag != Silent) {
+        showsch_MouseUp();
+    }
+}
+
+void Form6::showsch_MouseUp()
 {
     MakeScheme(module_, ColPik1.SchemeColor(), ContrastV.Value());
     PaintOptions();
 }
 
-void Form6::TakeCardColour(Colour colour)
+/// No repaint: the dialog shows the colour at the next preview.
+void Form6::ColPik1_SelColor(Colour colour)
+{
+    module_.SchemeColors[BackgroundSlot] = colour;
+}
+
+void Form6::ColPik2_SelColor(Colour colour)
 {
     for (std::size_t suit = 0; suit < NumbersOption; ++suit) {
         if (NumCol[suit].Enabled() && NumCol[suit].Value()) {
@@ -233,13 +242,13 @@ void Form6::TakeCardColour(Colour colour)
     }
 }
 
-void Form6::EditColourOf(std::size_t option)
+void Form6::NumCol_MouseUp(std::size_t option)
 {
     ColPik2.SetSchemeColor(NumCol[option].BackColor());
     ShowNumColours();
 }
 
-void Form6::ShowSelectedFont()
+void Form6::List2_MouseUp()
 {
     Label1.SetFontItalic(false);
     Label1.SetFontBold(false);
@@ -248,7 +257,7 @@ void Form6::ShowSelectedFont()
     }
 }
 
-void Form6::SwitchSound()
+void Form6::Check1_MouseUp()
 {
     if (Check1.Value()) {
         module_.SoundOn = Yes;
@@ -258,7 +267,7 @@ void Form6::SwitchSound()
     }
 }
 
-void Form6::Apply()
+void Form6::command3_MouseUp()
 {
     if (const std::string scheme = List1.SelectedText(); !scheme.empty()) {
         module_.SchemeFile = scheme + std::string(SchemeSuffix);
@@ -269,10 +278,15 @@ void Form6::Apply()
     }
     module_.CardTextColor = NumCol[NumbersOption].BackColor();
     module_.SoundOn = Check1.Value() ? Yes : No;
-    command2_();
+    command2_.SetValue(true);
 }
 
-void Form6::Reset()
+void Form6::command4_MouseUp()
+{
+    Hide();
+}
+
+void Form6::cmdreset_MouseUp()
 {
     if (messageBox_.MsgboxA("Reset Card Colours and Font?", "vbyesno+vbinformation", -1, -1) !=
         AnswerYes) {
@@ -284,7 +298,7 @@ void Form6::Reset()
     }
     NumCol[NumbersOption].SetBackColor(PaletteColour(15));
     Label1.SetFontName("Arial");
-    Apply();
+    command3_MouseUp();
     ShowNumColours();
 }
 

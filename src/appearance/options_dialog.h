@@ -12,7 +12,6 @@
 #include "table/module1.h"
 
 #include <array>
-#include <functional>
 
 namespace tessarine
 {
@@ -23,9 +22,9 @@ namespace tessarine
 class Form6 : public Form
 {
 public:
-    /// `command2` repaints the table in the active scheme.
+    /// A press of `command2` makes the table wear the active scheme. It must outlive the form.
     Form6(Forms& forms, Module1& module, SchemeStore& store, MsgForm& messageBox, const Sound& sound,
-          std::function<void()> command2);
+          PushButton& command2);
 
     /// Fills the list of schemes from the file; without the file it stays as it is. The font list
     /// fills itself when it is first looked at.
@@ -66,28 +65,31 @@ private:
     void PlaceCardColourGroup();
     void PlaceFontGroup();
     void NameControls();
-    void HearSchemeGroup();
-    void HearOthers();
+    void ConnectSchemeGroup();
+    void ConnectOthers();
 
     void PaintOptions();
     void ShowNumColours();
     void ResetContrastQuietly();
     void SelectCardFont();
 
-    void PreviewSelectedScheme();
-    void PreviewMadeScheme();
-    void TakeCardColour(Colour colour);
-    void EditColourOf(std::size_t option);
-    void ShowSelectedFont();
-    void SwitchSound();
-    void Apply();
-    void Reset();
+    void List1_MouseUp();
+    void ContrastV_Change();
+    void showsch_MouseUp();
+    void ColPik1_SelColor(Colour colour);
+    void ColPik2_SelColor(Colour colour);
+    void NumCol_MouseUp(std::size_t option);
+    void List2_MouseUp();
+    void Check1_MouseUp();
+    void cmdreset_MouseUp();
+    void command3_MouseUp(); ///< Apply
+    void command4_MouseUp(); ///< Exit
 
     Module1& module_;
     SchemeStore& store_;
     MsgForm& messageBox_;
     const Sound& sound_;
-    std::function<void()> command2_;
+    PushButton& command2_;
     SchemeCommands commands_;
 };
 

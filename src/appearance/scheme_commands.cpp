@@ -36,7 +36,7 @@ bool SchemeCommands::FillList()
     return true;
 }
 
-void SchemeCommands::Add()
+void SchemeCommands::addsch_MouseUp()
 {
     const std::string name = platform_.AskForText("Enter new Color Scheme name");
     if (name.empty()) {
@@ -54,7 +54,7 @@ void SchemeCommands::Add()
     }
 }
 
-void SchemeCommands::Replace()
+void SchemeCommands::repsch_MouseUp()
 {
     const std::string name = list_.SelectedText();
     if (name.empty()) {
@@ -72,7 +72,7 @@ void SchemeCommands::Replace()
     }
 }
 
-void SchemeCommands::Delete()
+void SchemeCommands::delsch_MouseUp()
 {
     const std::string name = list_.SelectedText();
     if (name.empty()) {

@@ -20,11 +20,11 @@ public:
     bool FillList();
 
     /// Asks for a name and stores the present colours under it.
-    void Add();
+    void addsch_MouseUp();
     /// Stores the present colours in place of the selected scheme.
-    void Replace();
+    void repsch_MouseUp();
     /// Removes the selected scheme, unless it is the active one.
-    void Delete();
+    void delsch_MouseUp();
 
 private:
     void Say(const std::string& text);

@@ -65,7 +65,7 @@ void BoxControl::MouseReleased(const MouseEvent& event)
     UserControl::MouseReleased(event);
 }
 
-void BoxControl::Draw(Canvas& canvas) const
+void BoxControl::DrawBox(Canvas& canvas) const
 {
     DrawCaption(canvas);
     DrawEdges(canvas, Width(), Height());

@@ -26,10 +26,11 @@ public:
     void MouseReleased(const MouseEvent& event) override;
 
 protected:
-    void Draw(Canvas& canvas) const override;
+    void Draw(Canvas& canvas) const override { DrawBox(canvas); }
     std::string ShownText() const override { return caption_; }
 
 private:
+    void DrawBox(Canvas& canvas) const;
     void DrawCaption(Canvas& canvas) const;
 
     std::string caption_;

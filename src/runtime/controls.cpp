@@ -21,6 +21,13 @@ void UserControl::Redraw()
     Touch();
 }
 
+void PushButton::SetValue(bool value)
+{
+    if (value) {
+        MouseReleased({LeftButton, 0, Width() / 2, Height() / 2});
+    }
+}
+
 void PushButton::UserReleases(int button)
 {
     if (TakesInput()) {

@@ -116,6 +116,8 @@ public:
     const std::string& Caption() const { return caption_; }
     void SetCaption(const std::string& caption) { Assign(caption_, caption); }
 
+    /// Setting it to true presses the button from code, be it out of the user's reach.
+    void SetValue(bool value);
     /// A release of any mouse button on it, or its key.
     void UserReleases(int button = LeftButton);
     void UserActivates() override { UserReleases(); }

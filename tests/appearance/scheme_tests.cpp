@@ -43,6 +43,10 @@ struct AppearanceWorld {
         platform.files[module.AllColFile] =
             GreyEntry("default.col", 100) + GreyEntry("grey.col") + GreyEntry("slate.col", 60);
         dialog.FillSchemeList();
+        command2.MouseUp = [this](const MouseEvent&) {
+            store.ReadScheme(module.SchemeFile);
+            ApplyScheme(module, {{&table}, {&tableButton}, messageBox});
+        };
     }
 
     std::string& AllCol() { return platform.files[module.AllColFile]; }
@@ -67,10 +71,8 @@ struct AppearanceWorld {
     Sound sound{platform, module.AppDir, module.SoundOn};
     Label table;
     BoxControl tableButton;
-    Form6 dialog{forms, module, store, messageBox, sound, [this] {
-                     store.ReadScheme(module.SchemeFile);
-                     ApplyScheme(module, {{&table}, {&tableButton}, messageBox});
-                 }};
+    PushButton command2;
+    Form6 dialog{forms, module, store, messageBox, sound, command2};
 };
 
 struct Schemes : testing::Test, AppearanceWorld {
