@@ -20,4 +20,6 @@ set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
 
 # Qt's own tools are those of a Qt for Linux.
 set(QT_HOST_PATH /usr CACHE PATH "Where a Qt for this machine is installed")
-set(Qt6_DIR ${TESSARINE_QT}/lib/cmake/Qt6 CACHE PATH "Where the Qt for Windows says how it is used")
+if(TESSARINE_QT)
+  set(Qt6_DIR ${TESSARINE_QT}/lib/cmake/Qt6 CACHE PATH "Where the Qt for Windows says how it is used")
+endif()

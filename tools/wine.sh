@@ -4,11 +4,27 @@
 set -u
 build=$(dirname "$(readlink -f "$0")")/../build
 mkdir -p "$build"
-export WINEPREFIX=${WINEPREFIX:-$(readlink -f "$build")/wine} WINEARCH=win64 WINEDEBUG=${WINEDEBUG:--all}
-# Without these it would ask whether to download what no program here needs.
-export WINEDLLOVERRIDES="mscoree,mshtml=;winemenubuilder.exe=${WINEDLLOVERRIDES:+;$WINEDLLOVERRIDES}"
+WINEPREFIX=${WINEPREFIX:-$(readlink -f "$build")/wine}
+# What it would otherwise ask to download, or lay into the menu of the user.
+export WINEPREFIX WINEARCH=win64 WINEDEBUG=${WINEDEBUG:--all} WINEDLLOVERRIDES='mscoree,mshtml=;winemenubuilder.exe='
 wine=$(PATH=$PATH:/usr/lib/wine command -v wine64) || wine=$(command -v wine) || {
     echo "There is no Wine here to run ${1:-a program} with." >&2
     exit 127
 }
+
+# A world is made once: a Windows 10 with fonts in place of those that every Windows has.
+make_world() {
+    local fonts='HKCU\Software\Wine\Fonts\Replacements'
+    rm -rf -- "$WINEPREFIX"
+    "$wine" wineboot -i && "$wine" winecfg -v win10 &&
+        "$wine" reg add "$fonts" /v Arial /d 'Liberation Sans' /f &&
+        "$wine" reg add "$fonts" /v 'Courier New' /d 'Liberation Mono' /f &&
+        touch "$WINEPREFIX/made"
+}
+if [ ! -e "$WINEPREFIX/made" ]; then
+    (
+        flock 9
+        [ -e "$WINEPREFIX/made" ] || make_world >"$WINEPREFIX.log" 2>&1
+    ) 9>"$WINEPREFIX.lock" || { echo "Wine could not be set up; see $WINEPREFIX.log" >&2; exit 127; }
+fi
 exec "$wine" "$@"

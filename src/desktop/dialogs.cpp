@@ -60,7 +60,7 @@ std::string File(QWidget* parent, const FileDialogRequest& request)
     }
     std::string chosen;
     if (box.exec() == QDialog::Accepted && !box.selectedFiles().isEmpty()) {
-        chosen = ToBytes(box.selectedFiles().constFirst());
+        chosen = PathToBytes(box.selectedFiles().constFirst());
     }
     files::ChangeFolder(before);
     return chosen;

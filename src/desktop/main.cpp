@@ -1,28 +1,22 @@
 // The program Tessarine on a desktop.
 #include "desktop/desktop_platform.h"
 #include "desktop/fonts.h"
+#include "desktop/start.h"
+#include "desktop/text.h"
 #include "form1.h"
 
 #include <QApplication>
-#include <QFile>
 #include <QFileInfo>
 
-#include <cstdio>
 #include <cstdlib>
 #include <thread>
 
 namespace
 {
 
-bool IsSet(const char* variable)
-{
-    const char* const value = std::getenv(variable);
-    return value != nullptr && *value != '\0';
-}
-
 [[noreturn]] void EndWithoutDisplay()
 {
-    std::fputs("Tessarine needs a graphical desktop: no display could be opened.\n", stderr);
+    tessarine::SayWithoutDesktop("Tessarine needs a graphical desktop: no display could be opened.");
     std::_Exit(EXIT_FAILURE);
 }
 
@@ -39,7 +33,7 @@ void WatchStart(QtMsgType type, const QMessageLogContext&, const QString&)
 
 int main(int argc, char* argv[])
 {
-    if (!IsSet("QT_QPA_PLATFORM") && !IsSet("DISPLAY") && !IsSet("WAYLAND_DISPLAY")) {
+    if (!tessarine::MayHaveDesktop()) {
         EndWithoutDisplay();
     }
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
@@ -57,8 +51,8 @@ int main(int argc, char* argv[])
 
     tessarine::DesktopPlatform platform;
     const QFileInfo program(QCoreApplication::applicationFilePath());
-    tessarine::Form1 form1(platform, QFile::encodeName(program.absolutePath()).toStdString(),
-                           QFile::encodeName(program.completeBaseName()).toStdString());
+    tessarine::Form1 form1(platform, tessarine::PathToBytes(program.absolutePath()),
+                           tessarine::ToBytes(program.completeBaseName()));
     form1.Start();
     return QApplication::exec();
 }

@@ -2,6 +2,8 @@
 
 #include "runtime/letters.h"
 
+#include <QDir>
+
 namespace tessarine
 {
 
@@ -23,6 +25,11 @@ std::string ShortMonth(const QLocale& locale, int month)
     QString name = locale.standaloneMonthName(month, QLocale::ShortFormat);
     name.removeIf([](QChar letter) { return letter.isSpace(); });
     return ToBytes(QString::fromStdU32String(name.toStdU32String().substr(0, letters)));
+}
+
+std::string PathToBytes(const QString& path)
+{
+    return ToBytes(QDir::toNativeSeparators(path));
 }
 
 } // namespace tessarine

@@ -19,4 +19,7 @@ std::string ToBytes(const QString& text);
 /// The first three letters of a month's short name, from 1 for January, none of them a blank.
 std::string ShortMonth(const QLocale& locale, int month);
 
+/// A path with the system's separators.
+std::string PathToBytes(const QString& path);
+
 } // namespace tessarine

@@ -13,6 +13,7 @@ enum class FileFault {
     None,
     Missing,   ///< no such file, or no such folder
     Forbidden, ///< write-protected, or not the user's
+    InUse,     ///< another program has it open and shares it with nobody
     IsFolder,
     Full,     ///< no room on the disk
     TooLarge, ///< more than LargestFile

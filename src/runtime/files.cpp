@@ -12,6 +12,8 @@ std::string_view Reason(FileFault fault)
         return "The file or its folder is not there";
     case FileFault::Forbidden:
         return "The file or its folder is protected";
+    case FileFault::InUse:
+        return "Another program has the file open";
     case FileFault::IsFolder:
         return "A folder has this name";
     case FileFault::Full:
