@@ -58,13 +58,14 @@ open_display() {
     local number
     needs Xvfb openbox xdotool wmctrl xprop xwininfo xwd convert
     mkfifo "$home/number"
-    Xvfb -displayfd 5 -screen 0 1280x1400x24 -nolisten tcp 5<>"$home/number" >"$home/xvfb.log" 2>&1 &
+    Xvfb -displayfd 5 -screen 0 1280x1400x24 -noreset -nolisten tcp 5<>"$home/number" >"$home/xvfb.log" 2>&1 &
     started+=($!)
     read -r -t "$limit" number <>"$home/number" || fail "the display did not start"
     export DISPLAY=:$number
     openbox >"$home/openbox.log" 2>&1 &
     started+=($!)
     soon "a window manager" wmctrl -m >/dev/null 2>&1
+    sleep 0.5 # it says that it is there before it is, and may sleep over a window that comes meanwhile
 }
 
 windows_of_program() { xdotool search --onlyvisible --pid "$pid" --name . 2>/dev/null; }
