@@ -40,7 +40,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     GameWorld world(static_cast<std::uint64_t>(choices(65536)));
     for (int gesture = 0; gesture < 300 && choices.AreLeft(); ++gesture) {
         PlayOrDisturb(world, choices);
-        if (world.table.Dragging) {
+        if (world.form.hand.Dragging()) {
             continue; // the nested gesture took the place of a release
         }
         if (const std::string fault = world.Fault(); !fault.empty()) {

@@ -4,6 +4,7 @@
 #include "kit/icons.h"
 #include "presentation/places.h"
 #include "runtime/files.h"
+#include "table/description.h"
 
 namespace tessarine
 {
@@ -11,12 +12,12 @@ namespace tessarine
 Form1::Form1(Platform& platform, const std::string& programPath, const std::string& programName)
     : OwnedForms(platform), Form(OwnedForms::list, GameTitle, places::DesignArea),
       sound(platform, shared.AppDir, shared.SoundOn), msgForm(list), form4(list, shared),
-      aboutForm(list, shared), table(*this, shared, sound), Score1(platform, programName), undo(table),
-      deal(table, [this] { undo.Clear(); }), ring(table), drops(table, ring, undo),
-      automove(table, drops, [this] { gameCommands.GameWon(); }),
-      gestures(table, ring, drops, undo, automove), scaling(table, NextCard), resizing(table, scaling),
-      configuration(platform, shared.AppDir, shared, msgForm), gameFile(table, deal, scaling, ring),
-      snapshot(table, gameFile),
+      aboutForm(list, shared), table(*this, shared, sound), Score1(platform, programName), hand(table),
+      undo(table), deal(table, hand, undo), ring(table), drops(table, hand, ring, undo),
+      automove(table, hand, drops, [this] { gameCommands.GameWon(); }),
+      gestures({table, hand, ring, drops, undo, automove}), scaling(table, NextCard),
+      resizing(table, hand, scaling, door), configuration(platform, shared.AppDir, shared, msgForm),
+      gameFile(table, deal, scaling, ring), snapshot(table, gameFile),
       gameCommands({table, deal, scaling, ring, undo, gameFile, snapshot, Score1, msgForm, gf1}),
       schemeStore(shared, msgForm), form6(list, shared, schemeStore, msgForm, sound, Command2),
       programCommands({*this, form6, form4, aboutForm, msgForm, configuration, Score1, shared, sound})
@@ -28,7 +29,8 @@ Form1::Form1(Platform& platform, const std::string& programPath, const std::stri
     SetIcon(icons::Program());
     PlaceControls();
     ConnectButtons();
-    gestures.Attach();
+    gestures.Attach(door);
+    DescribeItems(table);
 }
 
 void Form1::PlaceControls()
@@ -85,8 +87,8 @@ void Form1::PlaceCommandRow()
 void Form1::ConnectButtons()
 {
     // A release of any mouse button, wherever the pointer is, presses the button.
-    const auto onPress = [](Control& button, auto action) {
-        button.MouseUp = [action](const MouseEvent&) { action(); };
+    const auto onPress = [this](Control& button, auto action) {
+        button.MouseUp = [this, action](const MouseEvent&) { door.Pass(action); };
     };
     onPress(cmdLoadGame, [this] { gameCommands.cmdLoadGame_MouseUp(); });
     onPress(cmdSaveGame, [this] { gameCommands.cmdSaveGame_MouseUp(); });
@@ -97,9 +99,9 @@ void Form1::ConnectButtons()
     onPress(cmdabout, [this] { programCommands.cmdabout_MouseUp(); });
     onPress(cmdhelp, [this] { programCommands.cmdhelp_MouseUp(); });
     onPress(cmdexit, [this] { programCommands.cmdexit_MouseUp(); });
-    onPress(cmdundo, [this] { undo.Pressed(); });
-    onPress(NextCard[0], [this] { ring.PrevPressed(); });
-    onPress(NextCard[1], [this] { ring.NextPressed(); });
+    onPress(cmdundo, [this] { undo.cmdundo_MouseUp(); });
+    onPress(NextCard[0], [this] { ring.NextCard_MouseUp(0); });
+    onPress(NextCard[1], [this] { ring.NextCard_MouseUp(1); });
     onPress(Command2, [this] { Command2_Click(); });
     Score1.OnCloseButton = [this] { Score1.SetVisible(false); };
 }
@@ -144,13 +146,13 @@ void Form1::DressMessageBox()
 void Form1::TakePlacesOfStacks()
 {
     for (int stack = 0; stack < StockStack; ++stack) {
-        const Label& base = table.cardy[At(SlotOf(stack))];
-        table.StackLeft[At(stack)] = RoundHalfEven(base.Left());
-        table.StackTop[At(stack)] = RoundHalfEven(base.Top());
+        const Label& base = table.cardy[SlotOf(stack)];
+        table.StackLeft[stack] = RoundHalfEven(base.Left());
+        table.StackTop[stack] = RoundHalfEven(base.Top());
     }
     const auto takeSlot = [this](int stack) {
-        table.StackLeft[At(stack)] = table.SlotLeft[At(SlotOf(stack))];
-        table.StackTop[At(stack)] = table.SlotTop[At(SlotOf(stack))];
+        table.StackLeft[stack] = table.SlotLeft[SlotOf(stack)];
+        table.StackTop[stack] = table.SlotTop[SlotOf(stack)];
     };
     takeSlot(StockStack);
     for (int pile = FirstPile; pile < FirstPile + Piles; ++pile) {

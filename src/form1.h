@@ -12,6 +12,7 @@
 #include "kit/sound.h"
 #include "presentation/resizing.h"
 #include "presentation/scaling.h"
+#include "runtime/door.h"
 #include "runtime/form.h"
 #include "store/configuration.h"
 #include "store/game_commands.h"
@@ -23,6 +24,7 @@
 #include "table/deal.h"
 #include "table/drops.h"
 #include "table/gestures.h"
+#include "table/hand.h"
 #include "table/module1.h"
 #include "table/stock_ring.h"
 #include "table/table.h"
@@ -75,6 +77,8 @@ public:
     FNDialog gf1;
     PushButton Command2; ///< out of the user's reach: the options dialog presses it
 
+    Door door{list};
+    Hand hand;
     Undo undo;
     Deal deal;
     StockRing ring;
@@ -94,15 +98,17 @@ public:
 protected:
     void OnLoad() override { Form_Load(); }
     void OnResize() override { resizing.Form_Resize(); }
-    // Whatever asks for the close: the program ends at once.
-    void OnClose() override { platform().EndProgram(); }
-    void OnUnload() override { platform().EndProgram(); }
+    void OnClose() override { Form_QueryUnload(); }
+    void OnUnload() override { Form_QueryUnload(); }
+    bool IsBusy() const override { return !door.IsOpen(); }
 
 private:
     void PlaceControls();
     void PlaceCommandRow();
     void ConnectButtons();
     void Form_Load();
+    /// Whatever asks for the close: the program ends at once.
+    void Form_QueryUnload() { platform().EndProgram(); }
     void DressMessageBox();
     void TakePlacesOfStacks();
     /// The table wears the active scheme.

@@ -100,8 +100,8 @@ public:
         const Point start = from.PlaceOnForm();
         pointer_ = {start.x + grip.x, start.y + grip.y};
         form_.FeedMouseDown({LeftButton, 0, pointer_.x, pointer_.y});
-        for (int i = 1; i <= table_.DragCards[0]; ++i) {
-            Label& held = table_.cardy[At(table_.DragCards[At(i)])];
+        for (const int picked : form_.hand.DragCards()) {
+            Label& held = table_.cardy[picked];
             held.Move(held.Left() + (to.Left() - start.x + table_.Picture2.Left()) * part,
                       held.Top() + (to.Top() - start.y + table_.Picture2.Top()) * part +
                           220 * (1 - part));

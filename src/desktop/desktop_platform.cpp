@@ -279,18 +279,29 @@ Size DesktopPlatform::TextSize(const Font& font, std::string_view text)
     return tessarine::TextSize(font, text);
 }
 
+/// A box of the system takes the mouse from all forms: a release reaches the box, or nobody.
+void DesktopPlatform::TakeMouse()
+{
+    for (const auto& [form, window] : windows_) {
+        window->LoseMouse();
+    }
+}
+
 bool DesktopPlatform::PlainMessage(const std::string& text, PlainButtons buttons)
 {
+    TakeMouse();
     return dialogs::Message(OwnerOfBox(), text, buttons);
 }
 
 std::string DesktopPlatform::AskForText(const std::string& prompt)
 {
+    TakeMouse();
     return dialogs::Text(OwnerOfBox(), prompt);
 }
 
 std::string DesktopPlatform::ChooseFile(const FileDialogRequest& request, Form* owner)
 {
+    TakeMouse();
     QWidget* const window = owner == nullptr ? nullptr : WindowOf(*owner);
     return dialogs::File(window == nullptr ? QApplication::activeWindow() : window, request);
 }

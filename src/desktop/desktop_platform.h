@@ -81,6 +81,7 @@ private:
     using Window = std::unique_ptr<FormWindow, EndWindow>;
 
     FormWindow& MakeWindow(Form& form);
+    void TakeMouse();
     void FireTimer(int number);
 
     Desk desk_;

@@ -178,6 +178,13 @@ bool FormWindow::HoldsItsSize() const
            sizes_.IsHeld(size());
 }
 
+void FormWindow::LoseMouse()
+{
+    if (Form* const form = TheForm()) {
+        form->FeedMouseLost();
+    }
+}
+
 Size FormWindow::Fit(Size clientArea)
 {
     const QSize wanted = ToPixels(clientArea);

@@ -27,6 +27,8 @@ public:
     void Shut();
     /// From now on nothing reaches the form, nor any control of it.
     void LetGoOfForm();
+    /// The mouse goes elsewhere, with whatever buttons are down.
+    void LoseMouse();
     /// The screen on which a window comes up that belongs to no other.
     static QScreen& HomeScreen();
 

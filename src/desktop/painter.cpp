@@ -36,6 +36,13 @@ QRegion InDevicePixels(const QRegion& region, double ratio, const QRect& all)
     return scaled;
 }
 
+QColor Mixed(const QColor& one, const QColor& other, double share)
+{
+    const auto part = [share](int from, int to) { return NearestPixel(from + (to - from) * share); };
+    return {part(one.red(), other.red()), part(one.green(), other.green()),
+            part(one.blue(), other.blue())};
+}
+
 } // namespace
 
 Painter::Painter(QWidget& widget, const QRegion& region, Typesetter& typesetter)
@@ -116,12 +123,25 @@ void Painter::FillFrame(const QRect& rect, int thickness, const QColor& colour)
     painter_.fillRect(rect.left(), rect.top() + rect.height() - thickness, width, thickness, colour);
 }
 
+void Painter::FillSunkenFrame(const QRect& rect, int thickness, const QColor& ground)
+{
+    constexpr double shade = 0.55;
+    FillFrame(rect, thickness, Mixed(ground, Qt::white, shade));
+    const QColor dark = Mixed(ground, Qt::black, shade);
+    painter_.fillRect(rect.left(), rect.top(), rect.width() - thickness, thickness, dark);
+    painter_.fillRect(rect.left(), rect.top(), thickness, rect.height() - thickness, dark);
+}
+
 void Painter::PaintLabel(const Label& label)
 {
     QRect rect = RectOf(label);
     const QColor ground = ToQColor(label.BackColor());
     if (label.HasBorder()) {
-        FillFrame(rect, Border(), EdgeOf(label.BackColor()));
+        if (label.IsSunken()) {
+            FillSunkenFrame(rect, Border(), ground);
+        } else {
+            FillFrame(rect, Border(), EdgeOf(label.BackColor()));
+        }
         rect.adjust(Border(), Border(), -Border(), -Border());
     }
     if (label.IsOpaque()) {

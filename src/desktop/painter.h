@@ -40,6 +40,8 @@ private:
     int Border() const;
 
     void FillFrame(const QRect& rect, int thickness, const QColor& colour);
+    /// Dark at the top and left, light at the bottom and right.
+    void FillSunkenFrame(const QRect& rect, int thickness, const QColor& ground);
     void PaintLabel(const Label& label);
     void PaintText(const Label& label, const QRect& inside);
     void PaintInk(const Ink& ink, QPoint pen, const QRect& within);

@@ -341,8 +341,17 @@ Size HeadlessPlatform::TextSize(const Font& font, std::string_view text)
 
 // --- the system's own boxes, and sound ---
 
+/// A box of the system takes the mouse from all forms.
+void HeadlessPlatform::TakeMouse()
+{
+    for (Form* form : windows_) {
+        form->FeedMouseLost();
+    }
+}
+
 bool HeadlessPlatform::PlainMessage(const std::string& text, PlainButtons buttons)
 {
+    TakeMouse();
     plainMessages.push_back(text);
     if (plainAnswers.empty()) {
         return buttons == PlainButtons::Ok;
@@ -354,6 +363,7 @@ bool HeadlessPlatform::PlainMessage(const std::string& text, PlainButtons button
 
 std::string HeadlessPlatform::AskForText(const std::string& /*prompt*/)
 {
+    TakeMouse();
     if (typedAnswers.empty()) {
         return {};
     }
@@ -364,6 +374,7 @@ std::string HeadlessPlatform::AskForText(const std::string& /*prompt*/)
 
 std::string HeadlessPlatform::ChooseFile(const FileDialogRequest& request, Form* /*owner*/)
 {
+    TakeMouse();
     fileDialogs.push_back(request);
     if (chosenFiles.empty()) {
         return {};

@@ -146,6 +146,7 @@ private:
     };
 
     void RaiseWindow(Form& form);
+    void TakeMouse();
     bool HasRoundToFinish() const;
     void FinishRound();
     void PaintChanges();

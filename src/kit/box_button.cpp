@@ -65,6 +65,12 @@ void BoxControl::MouseReleased(const MouseEvent& event)
     UserControl::MouseReleased(event);
 }
 
+void BoxControl::MouseTaken()
+{
+    SetBorder(false);
+    UserControl::MouseTaken();
+}
+
 void BoxControl::DrawBox(Canvas& canvas) const
 {
     DrawCaption(canvas);

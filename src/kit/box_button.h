@@ -24,6 +24,7 @@ public:
 
     void MousePressed(const MouseEvent& event) override;
     void MouseReleased(const MouseEvent& event) override;
+    void MouseTaken() override;
 
 protected:
     void Draw(Canvas& canvas) const override { DrawBox(canvas); }

@@ -9,8 +9,8 @@ constexpr int WaitMilliseconds = 100;
 
 } // namespace
 
-Resizing::Resizing(Table& table, Scaling& scaling)
-    : table_(table), scaling_(scaling), Timer3(table.form().platform())
+Resizing::Resizing(Table& table, const Hand& hand, Scaling& scaling, Door& door)
+    : table_(table), hand_(hand), scaling_(scaling), door_(door), Timer3(table.form().platform())
 {
     Timer3.SetInterval(WaitMilliseconds);
     Timer3.OnTick = [this] { Timer3_Timer(); };
@@ -29,12 +29,14 @@ void Resizing::Form_Resize()
 /// In the middle of a move the timer stays on and ticks again: the rescale waits for the move's end.
 void Resizing::Timer3_Timer()
 {
-    if (table_.MoveIsUnderWay()) {
+    if (!hand_.IsEmpty()) {
         return;
     }
-    Timer3.SetEnabled(false);
-    scaling_.ScaleTable(ratio_);
-    table_.shared().LastFormWidth = RoundHalfEven(table_.form().OuterWidth());
+    door_.Pass([this] {
+        Timer3.SetEnabled(false);
+        scaling_.ScaleTable(ratio_);
+        table_.shared().LastFormWidth = RoundHalfEven(table_.form().OuterWidth());
+    });
 }
 
 } // namespace tessarine

@@ -2,7 +2,9 @@
 #pragma once
 
 #include "presentation/scaling.h"
+#include "runtime/door.h"
 #include "runtime/timer.h"
+#include "table/hand.h"
 #include "table/table.h"
 
 namespace tessarine
@@ -11,7 +13,7 @@ namespace tessarine
 class Resizing
 {
 public:
-    Resizing(Table& table, Scaling& scaling);
+    Resizing(Table& table, const Hand& hand, Scaling& scaling, Door& door);
 
     /// The window's size changed, for whatever reason: notes the ratio of the new width to that of
     /// the last layout and starts the wait. Further changes during the wait are dropped.
@@ -21,7 +23,9 @@ private:
     void Timer3_Timer();
 
     Table& table_;
+    const Hand& hand_;
     Scaling& scaling_;
+    Door& door_;
     Timer Timer3;
     float ratio_ = 1;
 };

@@ -14,13 +14,10 @@ namespace
 /// Width of a card in twips for each point of its text.
 constexpr double TwipsPerTextPoint = 32;
 
-constexpr std::array<int, 6> SpareItems = {51, 52, 53, 54, 68, 69};
-
 } // namespace
 
 void Scaling::ScaleTable(float factor)
 {
-    const InputHold hold(table_.form());
     ScaleNumbers(UsableFactor(factor));
     ShapeItems();
     LayBases();
@@ -30,9 +27,7 @@ void Scaling::ScaleTable(float factor)
     LayPiles();
     LayStock();
     FitWindow();
-    for (const int item : SpareItems) {
-        table_.cardy[At(item)].SetVisible(false);
-    }
+    HideSpareItems();
     ColourBlankItems();
     PlaceStockButtons();
 }
@@ -86,7 +81,7 @@ void Scaling::ShapeItems()
     const Module1& shared = table_.shared();
     const Whole points = RoundHalfEven(shared.CardWidth / TwipsPerTextPoint);
     for (int item = 0; item < ItemCount; ++item) {
-        Label& label = table_.cardy[At(item)];
+        Label& label = table_.cardy[item];
         label.SetFontUnderline(table_.StackOf(item) >= FirstPile);
         label.SetWidth(shared.CardWidth);
         label.SetHeight(shared.CardHeight);
@@ -99,13 +94,13 @@ void Scaling::LayBases()
 {
     const auto layBase = [this](int stack) {
         const int slot = SlotOf(stack);
-        table_.SlotLeft[At(slot)] = table_.StackLeft[At(stack)];
-        table_.SlotTop[At(slot)] = table_.StackTop[At(stack)];
-        table_.cardy[At(slot)].Move(table_.StackLeft[At(stack)], table_.StackTop[At(stack)]);
+        table_.SlotLeft[slot] = table_.StackLeft[stack];
+        table_.SlotTop[slot] = table_.StackTop[stack];
+        table_.cardy[slot].Move(table_.StackLeft[stack], table_.StackTop[stack]);
     };
     for (int pile = FirstPile; pile < FirstPile + Piles; ++pile) {
         layBase(pile);
-        table_.cardy[At(SlotOf(pile))].SetVisible(true);
+        table_.cardy[SlotOf(pile)].SetVisible(true);
     }
     // The two spare stacks behind the columns have bases too.
     for (int stack = 0; stack < StockStack; ++stack) {
@@ -116,10 +111,10 @@ void Scaling::LayBases()
 void Scaling::LayPiles()
 {
     for (int pile = FirstPile; pile < FirstPile + Piles; ++pile) {
-        for (const std::string& entry : table_.Stacks[At(pile)]) {
+        for (const std::string& entry : table_.Stacks[pile]) {
             const int card = CardOfEntry(entry);
-            Label& label = table_.cardy[At(card)];
-            label.Move(table_.StackLeft[At(pile)], table_.StackTop[At(pile)]);
+            Label& label = table_.cardy[card];
+            label.Move(table_.StackLeft[pile], table_.StackTop[pile]);
             table_.ShowCardFace(card);
             label.SetVisible(true);
             label.BringToFront();
@@ -130,14 +125,14 @@ void Scaling::LayPiles()
 /// What shows of the stock goes on showing: order and visibility stay.
 void Scaling::LayStock()
 {
-    const Whole left = table_.StackLeft[At(StockStack)];
-    const Whole top = table_.StackTop[At(StockStack)];
-    for (const std::string& entry : table_.Stacks[At(StockStack)]) {
+    const Whole left = table_.StackLeft[StockStack];
+    const Whole top = table_.StackTop[StockStack];
+    for (const std::string& entry : table_.Stacks[StockStack]) {
         if (entry != Marker) {
-            table_.cardy[At(CardOfEntry(entry))].Move(left, top);
+            table_.cardy[CardOfEntry(entry)].Move(left, top);
         }
     }
-    Label& place = table_.cardy[At(StockItem)];
+    Label& place = table_.cardy[StockItem];
     place.Move(left, top);
     place.SetCaption(std::string(Marker));
     place.SetBackColor(table_.shared().Button());
@@ -160,12 +155,21 @@ void Scaling::FitWindow()
     shared.LastFormWidth = RoundHalfEven(form.OuterWidth());
 }
 
+void Scaling::HideSpareItems()
+{
+    for (int item = StockItem; item < ItemCount; ++item) {
+        if (IsSpare(item)) {
+            table_.cardy[item].SetVisible(false);
+        }
+    }
+}
+
 void Scaling::ColourBlankItems()
 {
     const Colour colour = table_.shared().Button();
     for (int item = 0; item < ItemCount; ++item) {
         if (!table_.IsFaceUp(item)) {
-            table_.cardy[At(item)].SetBackColor(colour);
+            table_.cardy[item].SetBackColor(colour);
         }
     }
 }
@@ -175,8 +179,8 @@ void Scaling::PlaceStockButtons()
 {
     const Module1& shared = table_.shared();
     const Twips side = shared.CardWidth / 2.0;
-    const Twips left = table_.StackLeft[At(StockStack)] + shared.CardWidth;
-    const Twips top = table_.StackTop[At(StockStack)] + shared.CardHeight / 4.0;
+    const Twips left = table_.StackLeft[StockStack] + shared.CardWidth;
+    const Twips top = table_.StackTop[StockStack] + shared.CardHeight / 4.0;
     NextCard_[0].SetBounds(left, top, side, side);
     NextCard_[1].SetBounds(left + side, top, side, side);
 }

@@ -33,6 +33,7 @@ private:
     void LayPiles();
     void LayStock();
     void FitWindow();
+    void HideSpareItems();
     void ColourBlankItems();
     void PlaceStockButtons();
 

@@ -173,11 +173,19 @@ void Control::MouseReleased(const MouseEvent& event)
     }
 }
 
+void Control::MouseTaken()
+{
+    if (MouseLost) {
+        MouseLost();
+    }
+}
+
 void Control::UserActivates()
 {
     if (!TakesInput()) {
         return;
     }
+    OwnerForm()->FeedMouseLost();
     const MouseEvent click{LeftButton, 0, width_ / 2, height_ / 2};
     MousePressed(click);
     MouseReleased(click);

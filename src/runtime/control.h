@@ -117,13 +117,17 @@ public:
     MouseHandler MouseDown;
     MouseHandler MouseMove;
     MouseHandler MouseUp;
+    /// The press comes to no release: the mouse went elsewhere.
+    std::function<void()> MouseLost;
 
     /// The runtime delivers mouse events here; the position is relative to the control.
     virtual void MousePressed(const MouseEvent& event);
     virtual void MouseMoved(const MouseEvent& event);
     virtual void MouseReleased(const MouseEvent& event);
+    virtual void MouseTaken();
     /// What Space and Enter do with the control that has the keyboard, and the press action of an
-    /// assistive tool: a left click, unless the control says otherwise.
+    /// assistive tool: a left click, unless the control says otherwise. What the mouse holds meanwhile
+    /// it loses.
     virtual void UserActivates();
     /// Whether Tab comes by here.
     virtual bool TakesFocus() const { return false; }

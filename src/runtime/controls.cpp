@@ -1,5 +1,7 @@
 #include "runtime/controls.h"
 
+#include "runtime/form.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -31,6 +33,7 @@ void PushButton::SetValue(bool value)
 void PushButton::UserReleases(int button)
 {
     if (TakesInput()) {
+        OwnerForm()->FeedMouseLost(); // a press on the form, if there is one, is another's
         MouseReleased({button, 0, Width() / 2, Height() / 2});
     }
 }

@@ -30,6 +30,9 @@ public:
     /// A thin single line all round.
     bool HasBorder() const { return border_; }
     void SetBorder(bool border) { Assign(border_, border); }
+    /// The border is a sunken edge, dark at the top and left, light at the bottom and right.
+    bool IsSunken() const { return sunken_; }
+    void SetSunken(bool sunken) { Assign(sunken_, sunken); }
     /// Without it, what lies behind shows through.
     bool IsOpaque() const { return opaque_; }
     void SetOpaque(bool opaque) { Assign(opaque_, opaque); }
@@ -41,6 +44,7 @@ private:
     std::string caption_;
     Alignment alignment_ = Alignment::Left;
     bool border_ = false;
+    bool sunken_ = false;
     bool opaque_ = true;
 };
 

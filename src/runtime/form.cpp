@@ -48,7 +48,7 @@ void Form::ShowModal(Form* owner)
     Form* const before = forms_.active_;
     forms_.modals_.push_back(this);
     for (Form* other : forms_.loaded_) {
-        other->LoseCapture();
+        other->FeedMouseLost();
     }
     Show();
     platform().RunModal(*this, owner);
@@ -63,7 +63,7 @@ void Form::Hide()
         return;
     }
     shown_ = false;
-    LoseCapture();
+    FeedMouseLost();
     if (forms_.active_ == this) {
         forms_.active_ = nullptr;
     }
@@ -114,7 +114,7 @@ void Form::FeedMouseDown(const MouseEvent& event)
 
 void Form::FeedMouseMove(const MouseEvent& event)
 {
-    if (captured_ != nullptr && TakesInput()) {
+    if (captured_ != nullptr) {
         const Point corner = captured_->PlaceOnForm();
         captured_->MouseMoved({event.button, event.shift, event.x - corner.x, event.y - corner.y});
     }
@@ -130,9 +130,17 @@ void Form::FeedMouseUp(const MouseEvent& event)
     if (pressedButtons_ == 0) {
         captured_ = nullptr;
     }
-    if (target != nullptr && TakesInput()) {
+    if (target != nullptr) {
         const Point corner = target->PlaceOnForm();
         target->MouseReleased({event.button, event.shift, event.x - corner.x, event.y - corner.y});
+    }
+}
+
+void Form::FeedMouseLost()
+{
+    pressedButtons_ = 0;
+    if (Control* const lost = std::exchange(captured_, nullptr); lost != nullptr) {
+        lost->MouseTaken();
     }
 }
 
@@ -196,13 +204,6 @@ void Form::Forget(Control& control)
             Forget(*child);
         }
     }
-}
-
-/// The release of what is pressed may reach another window, or none.
-void Form::LoseCapture()
-{
-    captured_ = nullptr;
-    pressedButtons_ = 0;
 }
 
 } // namespace tessarine

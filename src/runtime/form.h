@@ -93,8 +93,8 @@ public:
     Forms& AllForms() const { return forms_; }
     Platform& platform() const { return forms_.platform(); }
 
-    /// Whether presses reach the form: no other form is modal before it and nobody holds its input.
-    bool TakesInput() const { return holds_ == 0 && !IsBehindModal(); }
+    /// Whether presses reach the form: no other form is modal before it, and it is not busy.
+    bool TakesInput() const { return !IsBehindModal() && !IsBusy(); }
 
     // --- what the platform feeds in; lengths in twips of the client area ---
 
@@ -102,6 +102,8 @@ public:
     void FeedMouseDown(const MouseEvent& event);
     void FeedMouseMove(const MouseEvent& event);
     void FeedMouseUp(const MouseEvent& event);
+    /// The mouse went elsewhere with its buttons down: their release reaches another window, or none.
+    void FeedMouseLost();
     /// The window has another size, for whatever reason.
     void FeedResize(Size clientArea);
     /// The window came to the front of the desktop.
@@ -113,7 +115,7 @@ public:
     /// The controls that look different since the last call, each once, and the form itself among
     /// them if its own look changed. What has no place on the screen may be among them.
     std::vector<Control*> TakeChanges();
-    /// Where the capture of the mouse is.
+    /// The control that has the mouse; none while no button is down.
     Control* Captured() const { return captured_; }
 
 protected:
@@ -124,43 +126,26 @@ protected:
     /// What a close box means. A form that says nothing is hidden.
     virtual void OnClose() { Hide(); }
     virtual void OnUnload() {}
+    /// Whether something half done keeps presses away; a press that comes then is gone with its release.
+    virtual bool IsBusy() const { return false; }
 
 private:
     friend class Control;
     friend class Container;
-    friend class InputHold;
 
     bool IsBehindModal() const { return forms_.Modal() != nullptr && forms_.Modal() != this; }
     void Activate();
     void NoteChange(Control& control);
     void Forget(Control& control);
-    void LoseCapture();
 
     Forms& forms_;
     std::string caption_;
     const Picture* icon_ = nullptr;
     bool loaded_ = false;
     bool shown_ = false;
-    int holds_ = 0;
     int pressedButtons_ = 0;
     Control* captured_ = nullptr;
     std::vector<Control*> changes_;
-};
-
-/// Keeps presses and releases from a form for as long as it lives: a move is under way. A press that
-/// came meanwhile is gone, its release too.
-class InputHold
-{
-public:
-    explicit InputHold(Form& form) : form_(form) { ++form_.holds_; }
-    ~InputHold() { --form_.holds_; }
-    InputHold(const InputHold&) = delete;
-    InputHold& operator=(const InputHold&) = delete;
-
-    static bool IsOn(const Form& form) { return form.holds_ > 0; }
-
-private:
-    Form& form_;
 };
 
 } // namespace tessarine

@@ -107,8 +107,8 @@ void GameCommands::GameWon()
 void GameCommands::BringPilesForward()
 {
     for (int pile = FirstPile; pile < FirstPile + Piles; ++pile) {
-        for (const std::string& entry : rooms_.table.Stacks[At(pile)]) {
-            rooms_.table.cardy[At(CardOfEntry(entry))].BringToFront();
+        for (const std::string& entry : rooms_.table.Stacks[pile]) {
+            rooms_.table.cardy[CardOfEntry(entry)].BringToFront();
         }
     }
 }

@@ -56,7 +56,6 @@ Trouble GameFile::LoadCardOrder(const std::string& path)
     if (const std::string fault = FaultOfGame(lines); !fault.empty()) {
         return FileTrouble{path, "It is no game file. " + fault};
     }
-    const InputHold hold(table_.form());
     table_.CardOrder.Clear();
     for (std::size_t n = 0; n < CardCount; ++n) {
         table_.CardOrder.Add(lines[n]);

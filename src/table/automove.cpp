@@ -8,11 +8,11 @@ namespace tessarine
 Whole CheckDone(const Table& table)
 {
     for (int stack = 0; stack < StockStack; ++stack) {
-        if (!table.Stacks[At(stack)].IsEmpty()) {
+        if (!table.Stacks[stack].IsEmpty()) {
             return 0;
         }
     }
-    const TextList& stock = table.Stacks[At(StockStack)];
+    const TextList& stock = table.Stacks[StockStack];
     if (stock.Count() > 1 || (stock.Count() == 1 && stock.Back() != Marker)) {
         return 0;
     }
@@ -41,10 +41,10 @@ void Automove::AutoMove(int source, int target)
     }
     while (NextCardFollows(source, target)) {
         const int card = table_.TopCard(source);
-        const std::size_t before = table_.Stacks[At(target)].Count();
-        table_.TakeInHand(card);
-        drops_.DropOnSol(card, SlotOf(target));
-        if (table_.Stacks[At(target)].Count() == before) {
+        const std::size_t before = table_.Stacks[target].Count();
+        hand_.Take(card);
+        drops_.DropOnSol(SlotOf(target));
+        if (table_.Stacks[target].Count() == before) {
             InnerFault("invalid call");
             return;
         }

@@ -5,6 +5,7 @@
 #include "table/table.h"
 
 #include <functional>
+#include <utility>
 
 namespace tessarine
 {
@@ -19,8 +20,8 @@ class Automove
 {
 public:
     /// `gameWon` is called once for each game, at its end; it deals the next.
-    Automove(Table& table, Drops& drops, std::function<void()> gameWon)
-        : table_(table), drops_(drops), gameWon_(std::move(gameWon))
+    Automove(Table& table, Hand& hand, Drops& drops, std::function<void()> gameWon)
+        : table_(table), hand_(hand), drops_(drops), gameWon_(std::move(gameWon))
     {
     }
 
@@ -35,6 +36,7 @@ private:
     void InnerFault(const std::string& text);
 
     Table& table_;
+    Hand& hand_;
     Drops& drops_;
     std::function<void()> gameWon_;
 };

@@ -19,14 +19,14 @@ inline constexpr int StockStack = 10;
 inline constexpr int FirstPile = 15;
 inline constexpr int Piles = 5; ///< stacks 15 to 19
 
-// Items on the table: 0 to 49 are the cards themselves.
+// Items on the table: 0 to 49 are the cards themselves, the others show the places of stacks.
 inline constexpr int ItemCount = 70;
 inline constexpr int StockItem = 50; ///< the stock's place; no card
 inline constexpr int FirstPileBase = 55;
 inline constexpr int FirstColumnBase = 60;
-inline constexpr int SlotCount = 91;
 
 inline constexpr int NoCard = -1;
+inline constexpr int NoStack = -1;
 /// The number that a base counts as; no card has it.
 inline constexpr int BaseNumber = 10;
 
@@ -36,12 +36,11 @@ inline constexpr std::string_view Marker = "...";
 inline constexpr std::string_view UsedUp = "X";
 
 // How the deal falls.
-inline constexpr int DealtToColumns = 28;
+inline constexpr std::size_t DealtToColumns = 28;
 
-/// Where the base of a stack has its slot.
-constexpr int SlotOf(int stack)
+constexpr bool IsCard(int item)
 {
-    return stack < StockStack ? stack + FirstColumnBase : stack + 40;
+    return item >= 0 && item < CardCount;
 }
 constexpr bool IsColumn(int stack)
 {
@@ -51,6 +50,19 @@ constexpr bool IsPile(int stack)
 {
     return stack >= FirstPile && stack < FirstPile + Piles;
 }
+
+/// Where the base of a stack has its slot: the bases of the stacks from the stock on stand before those
+/// of the columns.
+constexpr int SlotOf(int stack)
+{
+    return stack < StockStack ? stack + FirstColumnBase : stack + (StockItem - StockStack);
+}
+/// An item that no stack in play has its place at: never to be seen.
+constexpr bool IsSpare(int item)
+{
+    return (item > StockItem && item < FirstPileBase) || item >= FirstColumnBase + Columns;
+}
+
 constexpr std::size_t At(int index)
 {
     return static_cast<std::size_t>(index);

@@ -1,6 +1,5 @@
 #include "table/deal.h"
 
-#include <cmath>
 #include <string>
 #include <utility>
 #include <vector>
@@ -13,6 +12,8 @@ namespace
 /// Random keys lie in 0 to 997 and have four digits in the list that sorts them.
 constexpr int KeyRange = 998;
 constexpr std::size_t KeyDigits = 4;
+/// From the top of the table to the columns, beside a full and a short step of the fan.
+constexpr Whole AboveColumns = 100;
 
 std::string SortedEntry(int key, int card)
 {
@@ -38,30 +39,20 @@ void Deal::NewDeal()
 
 void Deal::DealCards(Replay replay)
 {
-    const InputHold hold(table_.form());
-    TurnAllFaceDown();
     if (replay == Replay::Shuffle) {
         Shuffle();
     }
-    ClearStacks();
-    DealColumns();
-    PlaceSlots();
-    FillStock();
-    ShowExposedCards();
-    table_.cardy[At(StockItem)].SetVisible(false);
-    table_.sound().PlayWav("_shuf.wav");
-    clearUndo_();
-}
+    hand_.Forget();
+    undo_.Clear();
+    FillStacks();
+    NameStacksOfBases();
 
-void Deal::TurnAllFaceDown()
-{
-    const Colour background = table_.shared().Background();
-    for (int card = 0; card < CardCount; ++card) {
-        Label& label = table_.cardy[At(card)];
-        label.SetBackColor(background);
-        label.SetCaption({});
-        label.SetFontUnderline(false);
-    }
+    TurnAllFaceDown();
+    LayColumns();
+    PlaceSlots();
+    LayStock();
+    ShowFaces();
+    table_.sound().PlayWav("_shuf.wav");
 }
 
 /// Sorts the cards by an independent random key each. Cards that draw the same key stay in ascending
@@ -72,7 +63,6 @@ void Deal::Shuffle()
     std::vector<std::string> keyed;
     keyed.reserve(CardCount);
     for (int card = CardCount - 1; card >= 0; --card) {
-        table_.CardStack[At(card)] = -1;
         platform.SeedRandom(platform.SecondsSinceMidnight());
         keyed.push_back(SortedEntry(static_cast<int>(platform.RandomDraw() * KeyRange), card));
     }
@@ -85,42 +75,82 @@ void Deal::Shuffle()
     }
 }
 
-void Deal::ClearStacks()
+/// Column c, counted from 1, gets c - 1 cards, and the stock the rest with the marker behind it.
+void Deal::FillStacks()
 {
     for (TextList& stack : table_.Stacks) {
         stack.Clear();
     }
+    std::size_t next = 0;
+    const auto deal = [&](int stack) {
+        const std::string& entry = table_.CardOrder.At(next++);
+        table_.Stacks[stack].Add(entry);
+        table_.CardStack[CardOfEntry(entry)] = stack;
+    };
+    for (int column = 0; column < Columns; ++column) {
+        for (int k = 0; k < column; ++k) {
+            deal(column);
+        }
+    }
+    while (next < CardCount) {
+        deal(StockStack);
+    }
+    table_.Stacks[StockStack].Add(std::string(Marker));
 }
 
-/// Column c, counted from 1, gets c - 1 cards.
-void Deal::DealColumns()
+void Deal::NameStacksOfBases()
+{
+    for (int stack = 0; stack < StackCount; ++stack) {
+        if (IsColumn(stack) || stack >= StockStack) {
+            table_.CardStack[SlotOf(stack)] = stack;
+        }
+    }
+}
+
+void Deal::TurnAllFaceDown()
+{
+    const Colour background = table_.shared().Background();
+    for (int item = 0; item < FirstColumnBase; ++item) {
+        Label& label = table_.cardy[item];
+        label.SetFontUnderline(false);
+        if (IsCard(item)) {
+            label.SetBackColor(background);
+            label.SetCaption({});
+        }
+    }
+}
+
+void Deal::LayColumns()
 {
     const Module1& shared = table_.shared();
     const double shortStep = shared.FanStep / 3.0;
-    std::size_t next = 0;
     for (int column = 0; column < Columns; ++column) {
         const Twips x = (shared.ColumnGap + shared.CardWidth) * column + shared.TableLeft;
-        double y = shared.TableTop + 100 + shared.FanStep + shortStep;
+        double y = shared.TableTop + AboveColumns + shared.FanStep + shortStep;
         PlaceColumnBase(column, x, y);
-        for (int k = 0; k < column; ++k) {
-            const int card = CardOfEntry(table_.CardOrder.At(next++));
-            table_.LayOn(column, card, x, y);
-            table_.cardy[At(card)].SetVisible(true);
+        for (const std::string& entry : table_.Stacks[column]) {
+            Label& card = table_.cardy[CardOfEntry(entry)];
+            card.Move(x, y);
+            card.SetVisible(true);
+            card.BringToFront();
             y += shortStep;
         }
+    }
+    // The bases behind the columns are sunken, which tells an empty column from a face-down card.
+    for (int item = FirstColumnBase; item < ItemCount; ++item) {
+        table_.cardy[item].SetSunken(true);
     }
 }
 
 void Deal::PlaceColumnBase(int column, Twips left, Twips top)
 {
-    const int slot = FirstColumnBase + column;
-    Label& base = table_.cardy[At(slot)];
+    const int slot = SlotOf(column);
+    Label& base = table_.cardy[slot];
     base.Move(left, top);
     base.SendToBack();
     base.SetVisible(true);
-    table_.CardStack[At(slot)] = column;
-    table_.SlotLeft[At(slot)] = RoundHalfEven(left);
-    table_.SlotTop[At(slot)] = RoundHalfEven(top);
+    table_.SlotLeft[slot] = RoundHalfEven(left);
+    table_.SlotTop[slot] = RoundHalfEven(top);
 }
 
 /// The stock stands at the left, the finished piles right-aligned with the last column, each half a
@@ -128,41 +158,38 @@ void Deal::PlaceColumnBase(int column, Twips left, Twips top)
 void Deal::PlaceSlots()
 {
     const Module1& shared = table_.shared();
-    for (int i = 0; i < Piles; ++i) {
-        table_.CardStack[At(StockItem + i)] = StockStack + i;
-        table_.CardStack[At(FirstPileBase + i)] = FirstPile + i;
-        table_.SlotTop[At(FirstPileBase + i)] = shared.TableTop;
-        table_.cardy[At(StockItem + i)].SetFontUnderline(false);
-        table_.cardy[At(FirstPileBase + i)].SetFontUnderline(false);
-    }
-    table_.SlotLeft[At(StockItem)] = shared.TableLeft;
-    table_.SlotTop[At(StockItem)] = shared.TableTop;
+    table_.SlotLeft[StockItem] = shared.TableLeft;
+    table_.SlotTop[StockItem] = shared.TableTop;
 
     constexpr int lastPileBase = FirstPileBase + Piles - 1;
-    table_.SlotLeft[At(lastPileBase)] =
+    table_.SlotLeft[lastPileBase] =
         (shared.ColumnGap + shared.CardWidth) * (Columns - 1) + shared.TableLeft;
-    for (int slot = lastPileBase - 1; slot >= FirstPileBase; --slot) {
-        table_.SlotLeft[At(slot)] =
-            RoundHalfEven(table_.SlotLeft[At(slot + 1)] - shared.CardWidth - shared.ColumnGap / 2.0);
+    for (int slot = lastPileBase; slot >= FirstPileBase; --slot) {
+        table_.SlotTop[slot] = shared.TableTop;
+        if (slot < lastPileBase) {
+            table_.SlotLeft[slot] =
+                RoundHalfEven(table_.SlotLeft[slot + 1] - shared.CardWidth - shared.ColumnGap / 2.0);
+        }
     }
 }
 
-void Deal::FillStock()
+void Deal::LayStock()
 {
-    TextList& stock = table_.Stacks[At(StockStack)];
+    for (const std::string& entry : table_.Stacks[StockStack]) {
+        if (entry != Marker) {
+            table_.cardy[CardOfEntry(entry)].Move(table_.SlotLeft[StockItem], table_.SlotTop[StockItem]);
+        }
+    }
+    table_.cardy[StockItem].SetVisible(false);
+}
+
+/// All of the stock and the last card of each column. Each face lets events run: by number, since a
+/// window that closes meanwhile must not find a walk through a list half done.
+void Deal::ShowFaces()
+{
     for (std::size_t n = DealtToColumns; n < CardCount; ++n) {
-        const std::string& entry = table_.CardOrder.At(n);
-        const int card = CardOfEntry(entry);
-        table_.cardy[At(card)].Move(table_.SlotLeft[At(StockItem)], table_.SlotTop[At(StockItem)]);
-        table_.CardStack[At(card)] = StockStack;
-        stock.Add(entry);
-        table_.ShowCardFace(card);
+        table_.ShowCardFace(CardOfEntry(table_.CardOrder.At(n)));
     }
-    stock.Add(std::string(Marker));
-}
-
-void Deal::ShowExposedCards()
-{
     for (int column = 1; column < Columns; ++column) {
         table_.ShowCardFace(table_.TopCard(column));
     }

@@ -1,9 +1,9 @@
 // Puts a game on the table.
 #pragma once
 
+#include "table/hand.h"
 #include "table/table.h"
-
-#include <functional>
+#include "table/undo.h"
 
 namespace tessarine
 {
@@ -16,31 +16,30 @@ enum class Replay { Shuffle, PresentOrder };
 class Deal
 {
 public:
-    /// `clearUndo` empties the history of moves, which no deal survives.
-    Deal(Table& table, std::function<void()> clearUndo) : table_(table), clearUndo_(std::move(clearUndo))
-    {
-    }
+    Deal(Table& table, Hand& hand, Undo& undo) : table_(table), hand_(hand), undo_(undo) {}
 
-    /// Lays a shuffled order, or the 50 entries that CardOrder holds. Positions are those of the
-    /// table at design size; whoever deals lays the table out afterwards and shows the first stock
-    /// card. Nothing may read the table before.
+    /// Lays a shuffled order, or the 50 entries that CardOrder holds. The hand and the history of moves
+    /// are empty then. Positions are those of the table at design size; whoever deals lays the table out
+    /// afterwards and shows the first stock card. Events run only when every card has its stack.
     void DealCards(Replay replay);
 
     /// A shuffled deal that appears at once. Ends with the normal mouse pointer.
     void NewDeal();
 
 private:
-    void TurnAllFaceDown();
     void Shuffle();
-    void ClearStacks();
-    void DealColumns();
+    void FillStacks();
+    void NameStacksOfBases();
+    void TurnAllFaceDown();
+    void LayColumns();
     void PlaceColumnBase(int column, Twips left, Twips top);
     void PlaceSlots();
-    void FillStock();
-    void ShowExposedCards();
+    void LayStock();
+    void ShowFaces();
 
     Table& table_;
-    std::function<void()> clearUndo_;
+    Hand& hand_;
+    Undo& undo_;
 };
 
 } // namespace tessarine

@@ -5,86 +5,89 @@
 namespace tessarine
 {
 
-void Drops::DropOnStack(int card, int target)
+void Drops::DropOnStack(int target)
 {
-    const InputHold hold(table_.form());
-    const int source = table_.StackOf(card);
-    const int destination = table_.StackOf(target);
-    const int head = table_.DragCards[1];
-    if (source == destination) {
+    if (table_.StackOf(hand_.Head()) == table_.StackOf(target)) {
         ReturnDrag(false);
         return;
     }
-    // A base takes any run.
-    const bool fits = target >= FirstColumnBase || FollowsInColumn(table_, head, target);
-    if (!fits) {
+    if (!GoesOnColumn(target)) {
         ReturnDrag(true);
         return;
     }
-    if (table_.DragCards[0] == 1) {
-        LayOneCard(head, target, source, destination);
+    if (hand_.DragCards().size() == 1) {
+        LayOneCard(target);
         table_.sound().PlayWav("_dropone.wav");
     } else {
-        LayRun(target, destination);
+        LayRun(target);
         table_.sound().PlayWav("_droponstack.wav");
     }
+    hand_.Forget();
 }
 
-void Drops::LayOneCard(int card, int target, int source, int destination)
+/// An empty column takes any run, and its base stands for it; a base under cards is of no suit.
+bool Drops::GoesOnColumn(int target) const
 {
-    if (source == StockStack) {
-        undo_.Record(source, destination, card);
+    const bool isEmpty = table_.Stacks[table_.StackOf(target)].IsEmpty();
+    return isEmpty || FollowsInColumn(table_, hand_.Head(), target);
+}
+
+void Drops::LayOneCard(int target)
+{
+    const int card = hand_.Head();
+    const int destination = table_.StackOf(target);
+    if (table_.StackOf(card) == StockStack) {
+        undo_.Record(destination, card);
     }
     slide_.SlideCard(card, target);
     RemoveCard(card);
-    const Label& onto = table_.cardy[At(target)];
-    const Whole below = target >= FirstColumnBase ? 0 : table_.shared().FanStep;
+    const Label& onto = table_.cardy[target];
+    const Whole below = IsCard(target) ? table_.shared().FanStep : 0;
     table_.LayOn(destination, card, onto.Left(), onto.Top() + below);
 }
 
 /// A run jumps. On a base its head lies exactly on it, on a card one step below.
-void Drops::LayRun(int target, int destination)
+void Drops::LayRun(int target)
 {
-    const Label& onto = table_.cardy[At(target)];
+    const int destination = table_.StackOf(target);
+    const Label& onto = table_.cardy[target];
     const Twips left = onto.Left();
     Twips top = onto.Top();
-    if (target < FirstColumnBase) {
+    if (IsCard(target)) {
         top += table_.shared().FanStep;
     }
-    for (int i = 1; i <= table_.DragCards[0]; ++i) {
-        const int card = table_.DragCards[At(i)];
+    for (const int card : hand_.DragCards()) {
         RemoveCard(card);
         table_.LayOn(destination, card, left, top);
         top += table_.shared().FanStep;
     }
 }
 
-void Drops::DropOnSol(int card, int target)
+void Drops::DropOnSol(int target)
 {
-    const InputHold hold(table_.form());
-    const int source = table_.StackOf(card);
+    const int card = hand_.Last();
     const int destination = table_.StackOf(target);
-    const int last = table_.DragCards[At(table_.DragCards[0])];
-    if (!FitsOnPile(table_, last, destination)) {
+    if (!FitsOnPile(table_, card, destination)) {
         ReturnDrag(true);
         return;
     }
-    if (source == StockStack) {
-        undo_.Record(source, destination, last);
+    if (table_.StackOf(card) == StockStack) {
+        undo_.Record(destination, card);
     }
-    slide_.SlideCard(last, target);
-    RemoveCard(last);
-    const Label& base = table_.cardy[At(target)];
-    table_.LayOn(destination, last, base.Left(), base.Top());
-    table_.cardy[At(last)].SetFontUnderline(true);
+    slide_.SlideCard(card, target);
+    RemoveCard(card);
+    const Label& base = table_.cardy[target];
+    table_.LayOn(destination, card, base.Left(), base.Top());
+    table_.cardy[card].SetFontUnderline(true);
     table_.sound().PlayWav("_droponsol.wav");
+    hand_.Forget();
 }
 
 /// Takes a card out of its stack; the next card of a column turns face-up, the stock turns.
 void Drops::RemoveCard(int card)
 {
     const int stack = table_.StackOf(card);
-    TextList& entries = table_.Stacks[At(stack)];
+    TextList& entries = table_.Stacks[stack];
     const auto position = entries.Find(EntryOfCard(card));
     if (!position) {
         table_.form().platform().PlainMessage(NumberText(card) + " not in stack" + NumberText(stack) +
@@ -108,15 +111,10 @@ void Drops::ReturnDrag(bool withError)
     if (withError) {
         ErrorBeep();
     }
-    if (table_.DragHomeLeft == -1) {
-        return;
+    if (hand_.GoHome()) {
+        table_.LetEventsRun();
     }
-    Twips top = table_.DragHomeTop;
-    for (int i = 1; i <= table_.DragCards[0]; ++i) {
-        table_.cardy[At(table_.DragCards[At(i)])].Move(table_.DragHomeLeft, top);
-        top += table_.shared().FanStep;
-    }
-    table_.LetEventsRun();
+    hand_.Forget();
 }
 
 void Drops::ErrorBeep() const

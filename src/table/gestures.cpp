@@ -2,127 +2,169 @@
 
 #include "table/rules.h"
 
+#include <utility>
+
 namespace tessarine
 {
 namespace
 {
 
-constexpr int NoStack = -1;
+/// The first of `count` stacks, from `first` on, of which `fits` holds; NoStack if there is none.
+template <class Fits> int FirstStack(int first, int count, const Fits& fits)
+{
+    for (int stack = first; stack < first + count; ++stack) {
+        if (fits(stack)) {
+            return stack;
+        }
+    }
+    return NoStack;
+}
 
 } // namespace
 
-void Gestures::Attach()
+void Gestures::Attach(Door& door)
 {
     for (int index = 0; index < ItemCount; ++index) {
-        Label& item = table_.cardy[At(index)];
-        item.MouseDown = [this, index](const MouseEvent& event) {
-            cardy_MouseDown(index, event.button, event.shift);
+        Label& item = rooms_.table.cardy[index];
+        item.MouseDown = [this, index, &door](const MouseEvent& event) {
+            door.Pass([&] { cardy_MouseDown(index, event.button, event.shift); });
         };
         item.MouseMove = [this](const MouseEvent&) { cardy_MouseMove(); };
-        item.MouseUp = [this, index](const MouseEvent& event) { cardy_MouseUp(index, event.button); };
+        item.MouseUp = [this, index, &door](const MouseEvent& event) {
+            door.Pass([&] { cardy_MouseUp(index, event.button); });
+        };
+        item.MouseLost = [this] { cardy_MouseLost(); };
     }
 }
 
 /// A second button during a drag changes nothing: the drag goes on.
 void Gestures::cardy_MouseDown(int index, int button, int shift)
 {
-    if (table_.Dragging) {
+    Hand& hand = rooms_.hand;
+    if (hand.Dragging()) {
         return;
     }
-    table_.DragHomeLeft = -1;
-    table_.DragHomeTop = -1;
-    const bool isCard = !table_.CardName[At(index)].empty();
-    if (isCard && table_.IsFaceUp(index) && shift == 0 && button == LeftButton &&
-        CanPickUp(table_, index) == Yes) {
-        PickUp(index);
+    hand.Forget();
+    rightPressed_ = rightPressed_ || button == RightButton;
+    if (IsCard(index) && rooms_.table.IsFaceUp(index) && shift == 0 && button == LeftButton &&
+        CanPickUp(rooms_.table, index) == Yes) {
+        hand.PickUp(index, rooms_.table.form().platform().Cursor());
+        rightPressed_ = false;
     }
 }
 
-void Gestures::PickUp(int index)
-{
-    const TextList& entries = table_.Stacks[At(table_.StackOf(index))];
-    const auto position = entries.Find(EntryOfCard(index));
-    if (!position) {
-        return;
-    }
-    table_.DragCards[0] = static_cast<Whole>(entries.Count() - *position);
-    for (int i = 1; i <= table_.DragCards[0]; ++i) {
-        const int card = CardOfEntry(entries.At(*position + At(i - 1)));
-        table_.DragCards[At(i)] = card;
-        table_.cardy[At(card)].BringToFront();
-    }
-    const PixelPoint cursor = table_.form().platform().Cursor();
-    table_.shared().DragCursorX = cursor.x;
-    table_.shared().DragCursorY = cursor.y;
-    table_.Dragging = true;
-    table_.DragHomeLeft = RoundHalfEven(table_.cardy[At(index)].Left());
-    table_.DragHomeTop = RoundHalfEven(table_.cardy[At(index)].Top());
-}
-
-/// The cards follow the cursor on the screen by its change since the last step, so that they keep
-/// their places to one another.
 void Gestures::cardy_MouseMove()
 {
-    if (!table_.Dragging) {
-        return;
-    }
-    Module1& shared = table_.shared();
-    const PixelPoint cursor = table_.form().platform().Cursor();
-    const Whole dx = (cursor.x - shared.DragCursorX) * shared.TwipsX;
-    const Whole dy = (cursor.y - shared.DragCursorY) * shared.TwipsY;
-    shared.DragCursorX = cursor.x;
-    shared.DragCursorY = cursor.y;
-    for (int i = 1; i <= table_.DragCards[0]; ++i) {
-        Label& card = table_.cardy[At(table_.DragCards[At(i)])];
-        card.Move(card.Left() + dx, card.Top() + dy);
+    if (rooms_.hand.Dragging()) {
+        rooms_.hand.Follow(rooms_.table.form().platform().Cursor());
     }
 }
 
 void Gestures::cardy_MouseUp(int index, int button)
 {
-    if (button == RightButton && !table_.Dragging) {
+    if (rooms_.hand.Dragging()) {
+        if (button == LeftButton) {
+            ReleaseDrag();
+        }
+    } else if (button == RightButton && std::exchange(rightPressed_, false)) {
         RightClick(index);
-    } else if (button == LeftButton && table_.Dragging) {
-        ReleaseDrag(index);
     }
 }
 
-void Gestures::ReleaseDrag(int index)
+void Gestures::cardy_MouseLost()
 {
-    table_.Dragging = false;
-    const int source = table_.StackOf(index);
-    const DropTarget target = FindDropTarget(index);
-    if (target.item == NoCard) {
-        drops_.ReturnDrag(true);
+    rightPressed_ = false;
+    if (rooms_.hand.Dragging()) {
+        rooms_.hand.GoHome();
+        rooms_.hand.Forget();
+    }
+}
+
+void Gestures::ReleaseDrag()
+{
+    rooms_.hand.Release();
+    CarryOut(FindDropTarget(rooms_.hand.Head()), Gesture::Drag);
+}
+
+/// Sends the exposed card of a stack to the best place.
+void Gestures::RightClick(int index)
+{
+    const Table& table = rooms_.table;
+    const int stack = table.StackOf(index);
+    if (stack == StockStack && table.Stacks[stack].Back() == Marker) {
+        return; // the gap between two passes
+    }
+    if (!IsCard(index) || stack >= FirstPile || table.TopCard(stack) != index) {
+        rooms_.drops.ErrorBeep();
         return;
     }
-    switch (target.kind) {
-    case DropTarget::Kind::Stock:
-        drops_.ReturnDrag(false);
-        break;
-    case DropTarget::Kind::Pile:
-        drops_.DropOnSol(index, target.item);
-        if (source == StockStack) {
-            automove_.EndTest();
-        } else {
-            undo_.Clear();
-            automove_.AutoMove(source, table_.StackOf(target.item));
-        }
-        break;
-    case DropTarget::Kind::Column:
-        drops_.DropOnStack(index, target.item);
-        if (source != StockStack) {
-            undo_.Clear();
-        }
-        automove_.EndTest();
-        break;
+    const DropTarget target = BestTarget(index);
+    if (target.item == NoCard) {
+        rooms_.drops.ErrorBeep();
+        return;
+    }
+    rooms_.hand.Take(index);
+    CarryOut(target, Gesture::RightClick);
+}
+
+/// A finished pile, then a column that fits, then an empty column, of which a card that is alone in its
+/// own has nothing to gain.
+DropTarget Gestures::BestTarget(int card) const
+{
+    const Table& table = rooms_.table;
+    const int pile =
+        FirstStack(FirstPile, Piles, [&](int stack) { return FitsOnPile(table, card, stack); });
+    if (pile != NoStack) {
+        return {DropTarget::Kind::Pile, SlotOf(pile)};
+    }
+    const int column = FirstStack(0, Columns, [&](int stack) {
+        const int top = table.TopCard(stack);
+        return top != NoCard && FollowsInColumn(table, card, top);
+    });
+    if (column != NoStack) {
+        return {DropTarget::Kind::Column, table.TopCard(column)};
+    }
+    const int home = table.StackOf(card);
+    const bool isAlone = IsColumn(home) && table.Stacks[home].Count() == 1;
+    const int empty =
+        isAlone ? NoStack
+                : FirstStack(0, Columns, [&](int stack) { return table.Stacks[stack].IsEmpty(); });
+    return {DropTarget::Kind::Column, empty == NoStack ? NoCard : SlotOf(empty)};
+}
+
+/// Drops the cards in the hand and does what follows a drop, legal or not. Only moves from the stock can
+/// be taken back, and only until a card of a column has been let go over a place. A right click turns
+/// the stock once more.
+void Gestures::CarryOut(const DropTarget& target, Gesture gesture)
+{
+    if (target.item == NoCard || target.kind == DropTarget::Kind::Stock) {
+        rooms_.drops.ReturnDrag(target.item == NoCard);
+        return;
+    }
+    const int source = rooms_.table.StackOf(rooms_.hand.Head());
+    const bool onPile = target.kind == DropTarget::Kind::Pile;
+    if (onPile) {
+        rooms_.drops.DropOnSol(target.item);
+    } else {
+        rooms_.drops.DropOnStack(target.item);
+    }
+    if (source != StockStack) {
+        rooms_.undo.Clear();
+    } else if (gesture == Gesture::RightClick) {
+        rooms_.ring.NextStockCard();
+    }
+    if (onPile) {
+        rooms_.automove.AutoMove(source, rooms_.table.StackOf(target.item));
+    } else {
+        rooms_.automove.EndTest();
     }
 }
 
 DropTarget Gestures::FindDropTarget(int card) const
 {
-    const Whole x = RoundHalfEven(table_.cardy[At(card)].Left());
-    const Whole y = RoundHalfEven(table_.cardy[At(card)].Top());
+    const Table& table = rooms_.table;
+    const Whole x = RoundHalfEven(table.cardy[card].Left());
+    const Whole y = RoundHalfEven(table.cardy[card].Top());
     if (IsNear(StockItem, x, y)) {
         return {DropTarget::Kind::Stock, StockItem};
     }
@@ -131,128 +173,27 @@ DropTarget Gestures::FindDropTarget(int card) const
             return {DropTarget::Kind::Pile, slot};
         }
     }
-    const Whole width = table_.shared().CardWidth;
-    for (int column = 0; column < Columns; ++column) {
-        const Whole left = RoundHalfEven(table_.StackLeft[At(column)] - width / 4.0);
-        if (x > left && x < left + width + width / 10.0) {
-            const int top = table_.TopCard(column);
-            return {DropTarget::Kind::Column, top == NoCard ? SlotOf(column) : top};
-        }
+    const Whole width = table.shared().CardWidth;
+    const int column = FirstStack(0, Columns, [&](int stack) {
+        const Whole left = RoundHalfEven(table.StackLeft[stack] - width / 4.0);
+        return x > left && x < left + width + width / 10.0;
+    });
+    if (column == NoStack) {
+        return {};
     }
-    return {};
+    const int top = table.TopCard(column);
+    return {DropTarget::Kind::Column, top == NoCard ? SlotOf(column) : top};
 }
 
 /// From half a card to the left of a slot and above it to a card's size to the right and below.
 bool Gestures::IsNear(int slot, Whole x, Whole y) const
 {
-    const Whole width = table_.shared().CardWidth;
-    const Whole height = table_.shared().CardHeight;
-    const Whole left = RoundHalfEven(table_.SlotLeft[At(slot)] - width * 0.5);
-    const Whole top = RoundHalfEven(table_.SlotTop[At(slot)] - height * 0.5);
+    const Table& table = rooms_.table;
+    const Whole width = table.shared().CardWidth;
+    const Whole height = table.shared().CardHeight;
+    const Whole left = RoundHalfEven(table.SlotLeft[slot] - width * 0.5);
+    const Whole top = RoundHalfEven(table.SlotTop[slot] - height * 0.5);
     return x > left && x < left + width * 1.5 && y > top && y < top + height * 1.5;
-}
-
-/// Sends the exposed card of a stack to the best place: a finished pile, then a column that fits, then
-/// an empty column.
-void Gestures::RightClick(int index)
-{
-    if (index > FirstPileBase) {
-        drops_.ReturnDrag(true);
-        return;
-    }
-    const int stack = table_.StackOf(index);
-    const TextList& entries = table_.Stacks[At(stack)];
-    if (entries.IsEmpty()) {
-        drops_.ReturnDrag(true);
-        return;
-    }
-    if (stack >= FirstPile) {
-        drops_.ErrorBeep();
-        return;
-    }
-    if (entries.Back() != Marker && entries.Back() != EntryOfCard(index)) {
-        drops_.ReturnDrag(true);
-        return;
-    }
-    if (stack == StockStack) {
-        SendFromStock(index);
-    } else {
-        SendFromColumn(index, stack);
-    }
-}
-
-void Gestures::SendFromStock(int card)
-{
-    if (card == StockItem) {
-        return;
-    }
-    table_.TakeInHand(card);
-    if (const int pile = PileThatFits(card); pile != NoStack) {
-        drops_.DropOnSol(card, SlotOf(pile));
-    } else if (const int column = ColumnThatFits(card); column != NoStack) {
-        drops_.DropOnStack(card, table_.TopCard(column));
-    } else if (const int empty = EmptyColumn(); empty != NoStack) {
-        drops_.DropOnStack(card, SlotOf(empty));
-    } else {
-        drops_.ErrorBeep();
-        return;
-    }
-    ring_.NextStockCard();
-    automove_.EndTest();
-}
-
-void Gestures::SendFromColumn(int card, int column)
-{
-    table_.TakeInHand(card);
-    if (const int pile = PileThatFits(card); pile != NoStack) {
-        drops_.DropOnSol(card, SlotOf(pile));
-        undo_.Clear();
-        automove_.AutoMove(column, pile);
-        return;
-    }
-    // A card alone in its column has nothing to gain from another empty one.
-    const bool isAlone = table_.Stacks[At(column)].Count() == 1;
-    if (const int other = ColumnThatFits(card); other != NoStack) {
-        drops_.DropOnStack(card, table_.TopCard(other));
-    } else if (const int empty = EmptyColumn(); empty != NoStack && !isAlone) {
-        drops_.DropOnStack(card, SlotOf(empty));
-    } else {
-        drops_.ReturnDrag(true);
-        return;
-    }
-    undo_.Clear();
-    automove_.EndTest();
-}
-
-int Gestures::PileThatFits(int card) const
-{
-    for (int pile = FirstPile; pile < FirstPile + Piles; ++pile) {
-        if (FitsOnPile(table_, card, pile)) {
-            return pile;
-        }
-    }
-    return NoStack;
-}
-
-int Gestures::ColumnThatFits(int card) const
-{
-    for (int column = 0; column < Columns; ++column) {
-        if (const int top = table_.TopCard(column);
-            top != NoCard && FollowsInColumn(table_, card, top)) {
-            return column;
-        }
-    }
-    return NoStack;
-}
-
-int Gestures::EmptyColumn() const
-{
-    for (int column = 0; column < Columns; ++column) {
-        if (table_.Stacks[At(column)].IsEmpty()) {
-            return column;
-        }
-    }
-    return NoStack;
 }
 
 } // namespace tessarine

@@ -34,8 +34,6 @@ struct Module1 : Dress, Settings {
 
     Whole TwipsX = TwipsPerPixel;
     Whole TwipsY = TwipsPerPixel;
-    Whole DragCursorX = 0; ///< logical pixels
-    Whole DragCursorY = 0;
 
     std::string AppDir; ///< the program's folder, with a separator at its end
     std::string AllColFile;

@@ -9,7 +9,7 @@ Whole CanPickUp(const Table& table, int card)
     if (stack >= FirstPile) {
         return No;
     }
-    const TextList& entries = table.Stacks[At(stack)];
+    const TextList& entries = table.Stacks[stack];
     const auto position = entries.Find(EntryOfCard(card));
     if (!position) {
         return No;

@@ -11,7 +11,7 @@ constexpr int StepMilliseconds = 3;
 
 Slide::Slide(Table& table) : table_(table), Timer2(table.form().platform())
 {
-    Timer2.OnTick = [this] { Timer2.SetEnabled(false); };
+    Timer2.OnTick = [this] { Timer2_Timer(); };
 }
 
 void Slide::SlideCard(int card, int target)
@@ -20,8 +20,8 @@ void Slide::SlideCard(int card, int target)
     if (steps <= 0) {
         return;
     }
-    Label& moving = table_.cardy[At(card)];
-    const Label& goal = table_.cardy[At(target)];
+    Label& moving = table_.cardy[card];
+    const Label& goal = table_.cardy[target];
     moving.BringToFront();
     Whole x = RoundHalfEven(moving.Left());
     Whole y = RoundHalfEven(moving.Top());
@@ -37,7 +37,6 @@ void Slide::SlideCard(int card, int target)
 
 void Slide::Pause(int milliseconds)
 {
-    const InputHold hold(table_.form());
     Timer2.SetInterval(milliseconds);
     Timer2.SetEnabled(true);
     while (Timer2.Enabled()) {

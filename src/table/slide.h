@@ -19,6 +19,7 @@ public:
 private:
     /// Lets events run for at least so many milliseconds, more than 0.
     void Pause(int milliseconds);
+    void Timer2_Timer() { Timer2.SetEnabled(false); }
 
     Table& table_;
     Timer Timer2;

@@ -26,21 +26,19 @@ void StockRing::PrevStockCard()
     ShowLastEntry();
 }
 
-void StockRing::NextPressed()
+void StockRing::NextCard_MouseUp(int index)
 {
     table_.sound().PlayWav("_nextcard.wav");
-    NextStockCard();
-}
-
-void StockRing::PrevPressed()
-{
-    table_.sound().PlayWav("_nextcard.wav");
-    PrevStockCard();
+    if (index == 0) {
+        PrevStockCard();
+    } else {
+        NextStockCard();
+    }
 }
 
 void StockRing::ShowUsedUp()
 {
-    Label& place = table_.cardy[At(StockItem)];
+    Label& place = table_.cardy[StockItem];
     place.SetCaption(std::string(UsedUp));
     place.SetVisible(true);
 }
@@ -48,7 +46,7 @@ void StockRing::ShowUsedUp()
 void StockRing::ShowLastEntry()
 {
     const std::string& entry = ring().Back();
-    Label& shown = table_.cardy[At(entry == Marker ? StockItem : CardOfEntry(entry))];
+    Label& shown = table_.cardy[entry == Marker ? StockItem : CardOfEntry(entry)];
     shown.SetVisible(true);
     shown.BringToFront();
 }

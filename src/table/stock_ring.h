@@ -15,12 +15,11 @@ public:
     void NextStockCard();
     void PrevStockCard();
 
-    /// Presses of the two buttons beside the stock.
-    void NextPressed();
-    void PrevPressed();
+    /// The buttons beside the stock: 0 turns it back, 1 forward.
+    void NextCard_MouseUp(int index);
 
 private:
-    TextList& ring() { return table_.Stacks[At(StockStack)]; }
+    TextList& ring() { return table_.Stacks[StockStack]; }
     bool HoldsOnlyMarker() { return ring().Count() == 1; }
     void ShowUsedUp();
     void ShowLastEntry();

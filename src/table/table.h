@@ -1,14 +1,14 @@
-// The state of a game: the items on the table, the stacks, and the move in hand.
+// The state of a game: the items on the table and the stacks.
 #pragma once
 
 #include "kit/sound.h"
 #include "runtime/controls.h"
 #include "runtime/form.h"
+#include "runtime/numbered.h"
 #include "runtime/text_list.h"
 #include "table/cards.h"
 #include "table/module1.h"
 
-#include <array>
 #include <string>
 
 namespace tessarine
@@ -20,37 +20,29 @@ namespace tessarine
 class Table
 {
 public:
-    /// Stands on `form`, whose input rests while a move is under way.
     Table(Form& form, Module1& shared, const Sound& sound);
 
     /// The surface; belongs on the form.
     PictureBox Picture2;
     /// All visual items; `cardy(0)` is the design that the others copy. On Picture2.
-    std::array<Label, ItemCount> cardy;
+    Numbered<Label, ItemCount> cardy;
 
     /// Entries are card indices of two digits, and once in the stock the marker. The finished piles
     /// keep themselves sorted.
-    std::array<TextList, StackCount> Stacks;
-    /// Stack that holds a card or that a base belongs to.
-    std::array<Whole, ItemCount> CardStack{};
+    Numbered<TextList, StackCount> Stacks;
+    /// Stack that holds a card or that a base belongs to; NoStack before the first deal.
+    Numbered<Whole, ItemCount> CardStack;
     /// Number and letter of each card, "07H"; empty for what is no card.
-    std::array<std::string, SlotCount> CardName;
+    Numbered<std::string, ItemCount> CardName;
 
-    // Places of the bases, in twips on Picture2.
-    std::array<Whole, SlotCount> SlotLeft{};
-    std::array<Whole, SlotCount> SlotTop{};
-    std::array<Whole, StackCount> StackLeft{};
-    std::array<Whole, StackCount> StackTop{};
+    // Places of the bases by their items, and of the stacks, in twips on Picture2.
+    Numbered<Whole, ItemCount - StockItem, StockItem> SlotLeft;
+    Numbered<Whole, ItemCount - StockItem, StockItem> SlotTop;
+    Numbered<Whole, StackCount> StackLeft;
+    Numbered<Whole, StackCount> StackTop;
 
     /// The deal: 50 card indices in dealing order, the whole definition of a game.
     TextList CardOrder;
-
-    /// The move in hand: the number of cards, then the cards, head of the run first.
-    std::array<Whole, 17> DragCards{};
-    /// Where the head was when the drag began; -1 if none has begun since the last press.
-    Whole DragHomeLeft = -1;
-    Whole DragHomeTop = -1;
-    bool Dragging = false;
 
     /// Makes the items and the names of the cards; once, before the first deal.
     void CreateCards();
@@ -61,27 +53,20 @@ public:
     char CardSuit(int item) const;
     /// The last entry of a stack as a card; NoCard for an empty stack.
     int TopCard(int stack) const;
-    bool IsFaceUp(int item) const { return !cardy[At(item)].Caption().empty(); }
-    /// "7 of H, column 3": what a listener is told of an item; empty for what does not show.
-    std::string Description(int item) const;
+    bool IsFaceUp(int item) const { return !cardy[item].Caption().empty(); }
 
     /// Turns a card face-up or draws its face anew, then lets pending events run.
     void ShowCardFace(int card);
+    void LetEventsRun() const { form_.platform().RunPendingEvents(); }
 
     /// The stack a card or base belongs to.
-    int StackOf(int item) const { return CardStack[At(item)]; }
-    /// Makes one card the move in hand.
-    void TakeInHand(int card);
+    int StackOf(int item) const { return CardStack[item]; }
     /// Lays a card on a stack: its entry, its number in CardStack, its place, in front of the others.
     void LayOn(int stack, int card, Twips left, Twips top);
 
     Form& form() const { return form_; }
     Module1& shared() const { return shared_; }
     const Sound& sound() const { return sound_; }
-    /// Pending events run, but presses meanwhile are lost: something is half done.
-    void LetEventsRun() const;
-    /// A card slides, is laid or is in the hand.
-    bool MoveIsUnderWay() const { return Dragging || InputHold::IsOn(form_); }
 
 private:
     void SetCardName(int card, int number, int suitNumber);

@@ -3,6 +3,8 @@
 
 #include "table/table.h"
 
+#include <vector>
+
 namespace tessarine
 {
 
@@ -13,19 +15,23 @@ public:
     explicit Undo(Table& table) : table_(table) {}
 
     /// Notes that a card is leaving the stock for a column or a pile.
-    void Record(int source, int destination, int card);
-    void Clear() { UndoList.Clear(); }
-    std::size_t Count() const { return UndoList.Count(); }
+    void Record(int destination, int card) { UndoList.push_back({destination, card}); }
+    void Clear() { UndoList.clear(); }
+    std::size_t Count() const { return UndoList.size(); }
 
-    /// The press of the button: takes back the newest move, if there is one.
-    void Pressed();
+    /// Takes back the newest move, if there is one.
+    void cmdundo_MouseUp();
 
 private:
+    struct StockMove {
+        int destination = 0;
+        int card = 0;
+    };
+
     void UndoMove();
 
     Table& table_;
-    /// Records of three numbers and two commas, such as " 10, 3, 27", the newest last.
-    TextList UndoList;
+    std::vector<StockMove> UndoList; ///< the newest last
 };
 
 } // namespace tessarine

@@ -24,10 +24,10 @@ namespace tessarine
 
 /// The user's pointer, at a place of a control in logical pixels from its corner. Goes the whole way of
 /// the window system's events, so that a window behind a modal one gets nothing.
-class Hand
+class UsersHand
 {
 public:
-    explicit Hand(DesktopPlatform& platform) : platform_(platform) {}
+    explicit UsersHand(DesktopPlatform& platform) : platform_(platform) {}
 
     void Press(const Control& control, QPoint at) { Send(QTest::MousePress, control, at); }
     void Move(const Control& control, QPoint at) { Send(QTest::MouseMove, control, at); }
@@ -134,8 +134,13 @@ protected:
 
     DesktopPlatform platform;
     Forms forms{platform};
-    Hand hand{platform};
-    Form form{forms, "test", {6000, 4500}};
+    UsersHand hand{platform};
+    struct BusyForm : Form {
+        using Form::Form;
+        bool IsBusy() const override { return busy; }
+        bool busy = false;
+    };
+    BusyForm form{forms, "test", {6000, 4500}};
     PictureBox surface;
 };
 

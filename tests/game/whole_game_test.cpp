@@ -3,6 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <functional>
+
 namespace tessarine::test
 {
 namespace
@@ -74,6 +77,17 @@ TEST(WholeGameTest, EveryWayToTheWinEndsOnce)
         ExpectWon(world);
     };
     constexpr int last = FirstPileBase + 4;
+    // A press in the events after the message begins nothing: the game counts once.
+    play({Card('O', 9), Card('O', 8), Card('O', 7)}, {}, [](GameWorld& w) {
+        for (int pump = 0; pump < 400; ++pump) {
+            w.platform.meanwhile.emplace_back([&w] {
+                w.form.cmdnewgame.UserActivates();
+                w.Press(w.form.cmdnewgame);
+            });
+        }
+        w.RightClick(Card('O', 7));
+        w.platform.meanwhile.clear();
+    });
     // By automove, by the right click and the drag of a last card, from a column and from the stock.
     play({Card('O', 9), Card('O', 8), Card('O', 7)}, {},
          [](GameWorld& w) { w.RightClick(Card('O', 7)); });
@@ -111,6 +125,7 @@ TEST(MiddleOfAMoveTest, InputChangesNothing)
             world.Press(world.form.NextCard[1]);
             world.Press(world.form.cmdnewgame);
             world.Press(world.form.cmdundo);
+            world.form.NextCard[1].UserActivates();
             world.form.FeedResize({7920, 7710});
         });
         world.RightClick(Card('H', 5));
@@ -119,12 +134,63 @@ TEST(MiddleOfAMoveTest, InputChangesNothing)
         EXPECT_EQ(world.Cards(StockStack), stock) << step;
         EXPECT_EQ(world.table.cardy[15].Top(), 1075) << "not rescaled in the middle";
         EXPECT_TRUE(world.platform.modalCaptions.empty()) << step;
-        EXPECT_FALSE(world.table.Dragging);
+        EXPECT_FALSE(world.form.hand.Dragging());
         // The rescale that fell due comes after the move.
         world.platform.Advance(200);
         EXPECT_NEAR(world.form.shared.CardWidth, 405 * 8040.0 / 4080, 1) << step;
         EXPECT_EQ(world.table.cardy[15].Top(), world.table.StackTop[0] + world.form.shared.FanStep);
     }
+}
+
+TEST(MiddleOfAMoveTest, AButtonPressedBeforeALayoutIsLetGoInIt)
+{
+    GameWorld world;
+    world.Arrange({.columns = {{Card('H', 6)}}, .stock = {Card('C', 1)}, .piles = {{Card('S', 0)}}});
+    BoxControl& button = world.form.NextCard[1];
+    const Point at = button.PlaceOnForm();
+    world.platform.Press(world.form, at.x + 50, at.y + 50);
+    ASSERT_TRUE(button.HasBorder());
+    world.platform.meanwhile.emplace_back(
+        [&] { world.platform.Release(world.form, at.x + 50, at.y + 50); });
+    const std::vector<int> ring = world.Cards(StockStack);
+    world.form.Command2.SetValue(true);
+    EXPECT_TRUE(world.platform.meanwhile.empty());
+    EXPECT_FALSE(button.HasBorder());
+    EXPECT_EQ(world.Cards(StockStack), ring) << "and begins nothing";
+}
+
+/// Somebody reads the table whenever events run during a deal: every card has its stack, and every item
+/// an answer.
+TEST(MiddleOfAMoveTest, ADealIsWholeBeforeAnythingElseRuns)
+{
+    GameWorld world;
+    int readings = 0;
+    std::string fault;
+    const std::function<void()> read = [&] {
+        ++readings;
+        for (int card = 0; card < CardCount; ++card) {
+            int places = 0;
+            for (int stack = 0; stack < StackCount; ++stack) {
+                const std::vector<int> cards = world.Cards(stack);
+                const bool isHere = std::ranges::find(cards, card) != cards.end();
+                places += isHere ? 1 : 0;
+                if (isHere != (world.table.CardStack[card] == stack)) {
+                    fault = "card " + std::to_string(card);
+                }
+            }
+            fault = places == 1 ? fault : "card " + std::to_string(card) + " is not in one place";
+        }
+        for (const Label& item : world.table.cardy) {
+            const std::string name = item.AccessibleName();
+            fault = item.Visible() || name.empty() ? fault : "hidden, yet told: " + name;
+        }
+    };
+    for (int pump = 0; pump < 25; ++pump) {
+        world.platform.meanwhile.emplace_back(read);
+    }
+    world.form.deal.NewDeal();
+    EXPECT_EQ(fault, "");
+    EXPECT_EQ(readings, 25) << "events run at each face that is drawn";
 }
 
 TEST(MiddleOfAMoveTest, ACloseEndsTheProgramAtOnce)

@@ -19,8 +19,10 @@ public:
 
     std::string Take() { return std::exchange(record, {}); }
     std::string record;
+    bool busy = false;
 
 protected:
+    bool IsBusy() const override { return busy; }
     void OnLoad() override { record += "load "; }
     void OnActivate() override { record += "activate "; }
     void OnUnload() override { record += "unload "; }
@@ -159,35 +161,29 @@ TEST_F(Mouse, ThePressedControlKeepsTheMouseUntilEveryButtonIsUp)
     EXPECT_EQ(record, "+ 10 10~-850 50+-1050-150--1650 8750--850 50");
 }
 
-TEST_F(Mouse, InputDuringAMoveIsGoneAndTheReleaseOfAPressToo)
+TEST_F(Mouse, APressOnABusyFormIsGoneWithItsReleaseAndATakenOneIsAlwaysReleased)
 {
     form.CancelControl = &upper;
-    {
-        const InputHold hold(form);
-        form.FeedMouseDown(At(300, 300));
-        form.FeedKey(DialogKey::Escape);
-    }
+    form.busy = true;
+    form.FeedMouseDown(At(300, 300));
+    form.FeedKey(DialogKey::Escape);
+    form.busy = false;
     form.FeedMouseUp(At(300, 300));
     form.TakesKeys = false;
     form.FeedKey(DialogKey::Escape);
     EXPECT_EQ(record, "");
     form.FeedMouseDown(At(300, 300));
-    {
-        const InputHold hold(form); // a move that the press itself began
-        form.FeedMouseDown(At(300, 300, RightButton));
-        form.FeedMouseMove(At(300, 300, 0));
-    }
+    form.busy = true; // with something that the press itself began
+    form.FeedMouseDown(At(300, 300, RightButton));
     form.FeedMouseUp(At(300, 300, RightButton));
-    {
-        const InputHold hold(form);
-        form.FeedMouseUp(At(300, 300));
-    }
-    EXPECT_EQ(record, "+ 100 100");
+    form.FeedMouseUp(At(300, 300));
+    EXPECT_EQ(record, "+ 100 100- 100 100");
     EXPECT_EQ(form.Captured(), nullptr);
 }
 
 TEST_F(Mouse, AModalFormTakesTheMouseFromTheOthers)
 {
+    lower.MouseLost = [this] { record += "lost "; };
     lower.MouseDown = [&](const MouseEvent&) { other.ShowModal(&form); };
     platform.OnNextModal([&](Form& dialog) {
         form.FeedMouseMove(At(300, 300, 0));
@@ -198,8 +194,15 @@ TEST_F(Mouse, AModalFormTakesTheMouseFromTheOthers)
     form.FeedMouseDown(At(100, 100)); // the release never comes here
     form.FeedMouseDown(At(300, 300, RightButton));
     form.FeedMouseUp(At(300, 300, RightButton));
-    EXPECT_EQ(record, "+ 100 100- 100 100");
+    EXPECT_EQ(record, "lost + 100 100- 100 100");
     EXPECT_EQ(form.Captured(), nullptr);
+    upper.UserActivates(); // past the mouse
+    EXPECT_EQ(record, "lost + 100 100- 100 100+ 200 200- 200 200");
+    lower.MouseDown = nullptr;
+    form.FeedMouseDown(At(100, 100, RightButton));
+    record.clear();
+    upper.UserActivates();
+    EXPECT_EQ(record, "lost + 200 200- 200 200");
 }
 
 TEST_F(Mouse, AControlThatGoesTakesItsCaptureAlong)

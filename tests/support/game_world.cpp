@@ -211,7 +211,7 @@ std::string GameWorld::Fault() const
     const int last = Cards(StockStack).back();
     const Control* showing = table.Picture2.FrontMostAt(table.StackLeft[At(StockStack)] + 60.0,
                                                         table.StackTop[At(StockStack)] + 60.0);
-    if (!table.Dragging && showing != &table.cardy[At(last < 0 ? StockItem : last)]) {
+    if (!form.hand.Dragging() && showing != &table.cardy[At(last < 0 ? StockItem : last)]) {
         return "what shows at the stock is not the last entry of the ring";
     }
     return {};

@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <functional>
+#include <stdexcept>
 #include <utility>
 
 namespace tessarine::test
@@ -154,7 +156,7 @@ TEST(GesturesTest, OnlyAPlainLeftPressOnAPlayableCardPicksUp)
     const auto picksUp = [&](int item, int button, int shift) {
         const Point corner = world.Corner(item);
         world.platform.Press(world.form, corner.x + 60, corner.y + 60, button, shift);
-        const bool dragging = world.table.Dragging;
+        const bool dragging = world.form.hand.Dragging();
         world.platform.Release(world.form, corner.x + 60, corner.y + 60, button, shift);
         return dragging;
     };
@@ -164,22 +166,101 @@ TEST(GesturesTest, OnlyAPlainLeftPressOnAPlayableCardPicksUp)
     EXPECT_FALSE(picksUp(Card('H', 5), MiddleButton, 0));
     EXPECT_FALSE(picksUp(Card('H', 6), LeftButton, 0)) << "face-down";
     EXPECT_FALSE(picksUp(FirstColumnBase + 1, LeftButton, 0));
-    EXPECT_FALSE(world.table.Dragging);
+    EXPECT_FALSE(world.form.hand.Dragging());
 }
 
-TEST(GesturesTest, ASecondButtonDuringADragIsIgnored)
+/// Left and another button over one drag, in every order of their releases: the drag alone counts.
+TEST(GesturesTest, ASecondButtonDuringADragIsIgnoredWithItsRelease)
+{
+    for (const int button : {RightButton, MiddleButton}) {
+        for (const char* const order : {"2L+-", "L2+-", "L+2-", "L2-+", "2L-+"}) {
+            for (const bool legal : {true, false}) {
+                GameWorld world;
+                world.Arrange({.columns = {{Card('H', legal ? 6 : 7)}, {Card('S', 9), Card('H', 5)}},
+                               .faceDownInEachColumn = 1});
+                world.table.ShowCardFace(Card('H', legal ? 6 : 7));
+                const Point at = world.Corner(Card('H', 5));
+                Point pointer{at.x + 60, at.y + 60};
+                for (const char* step = order; *step != 0; ++step) {
+                    if (*step == 'L') {
+                        world.platform.Press(world.form, pointer.x, pointer.y);
+                        pointer = {at.x - 420, at.y + 600};
+                        world.platform.MoveMouse(world.form, pointer.x, pointer.y);
+                    } else if (*step == '2') {
+                        world.platform.Press(world.form, pointer.x, pointer.y, button);
+                    } else {
+                        world.platform.Release(world.form, pointer.x, pointer.y,
+                                               *step == '-' ? LeftButton : button);
+                    }
+                }
+                const std::string told = std::string(order) + (legal ? " legal" : " illegal");
+                EXPECT_EQ(world.TakeSounds(), Sounds{legal ? "_dropone.wav" : "_error.wav"}) << told;
+                EXPECT_EQ(world.Cards(legal ? 0 : 1).back(), Card('H', 5)) << told;
+                EXPECT_EQ(world.table.cardy[15].Left(), legal ? 40 : 520) << told;
+                EXPECT_EQ(world.table.cardy[15].Top(), legal ? 1075 : 825) << told;
+            }
+        }
+    }
+}
+
+/// Whatever takes the mouse away in the middle of a drag ends it as a whole: cards home, silent, and the
+/// next gesture and the next rescale find nothing of it.
+TEST(GesturesTest, ADragThatLosesTheMouseEnds)
+{
+    const std::vector<std::function<void(GameWorld&)>> disturbances = {
+        [](GameWorld& w) { w.form.NextCard[1].UserActivates(); },
+        [](GameWorld& w) { w.form.cmdabout.UserActivates(); },
+        [](GameWorld& w) { w.form.Score1.Command2.UserReleases(LeftButton); },
+        [](GameWorld& w) { w.platform.PlainMessage("a box of the system", PlainButtons::Ok); },
+        [](GameWorld& w) { w.form.FeedMouseLost(); }};
+    for (std::size_t i = 0; i < disturbances.size(); ++i) {
+        GameWorld world;
+        world.Arrange(
+            {.columns = {{}, {Card('H', 5), Card('H', 4)}}, .stock = {Card('C', 1), Card('C', 2)}});
+        const Point at = world.Corner(Card('H', 5));
+        world.platform.Press(world.form, at.x + 60, at.y + 60);
+        world.platform.MoveMouse(world.form, at.x + 900, at.y + 900);
+        disturbances[i](world);
+        EXPECT_EQ(world.table.cardy[15].Left(), 520) << i;
+        EXPECT_EQ(world.table.cardy[15].Top(), 700) << i;
+        EXPECT_EQ(world.table.cardy[14].Top(), 1075) << i;
+        const Sounds sounds = world.TakeSounds();
+        EXPECT_EQ(std::ranges::count(sounds, "_error.wav"), 0) << i;
+        world.platform.Release(world.form, at.x + 900, at.y + 900);
+        EXPECT_EQ(world.Cards(1), (std::vector<int>{15, 14})) << i;
+        world.form.FeedResize({7920, 7710});
+        world.platform.Advance(100);
+        EXPECT_GT(world.form.shared.CardWidth, 700) << "the rescale comes " << i;
+        world.DragOnto(Card('H', 5), FirstColumnBase);
+        EXPECT_EQ(world.Cards(0), (std::vector<int>{15, 14})) << i;
+    }
+    // A deal leaves nothing of it either.
+    GameWorld world;
+    const int card = world.table.TopCard(7);
+    const Point at = world.Corner(card);
+    world.platform.Press(world.form, at.x + 60, at.y + 60);
+    world.platform.MoveMouse(world.form, at.x + 900, at.y + 900);
+    world.form.deal.NewDeal();
+    world.form.scaling.ScaleTable(1.0F);
+    world.form.ring.NextStockCard();
+    const Twips top = world.table.cardy[card].Top();
+    world.platform.MoveMouse(world.form, at.x, at.y + 2000);
+    world.platform.Release(world.form, at.x, at.y + 2000);
+    EXPECT_EQ(world.table.cardy[card].Top(), top);
+    EXPECT_EQ(world.Fault(), "");
+}
+
+TEST(MovesTest, ADropJudgesForItself)
 {
     GameWorld world;
-    world.Arrange({.columns = {{Card('H', 6)}, {Card('H', 4)}}});
-    const Point at = world.Corner(Card('H', 4));
-    world.platform.Press(world.form, at.x + 60, at.y + 60);
-    world.platform.MoveMouse(world.form, at.x - 420, at.y + 600);
-    world.platform.Press(world.form, at.x - 420, at.y + 600, RightButton);
-    world.platform.Release(world.form, at.x - 420, at.y + 600, RightButton);
-    EXPECT_TRUE(world.table.Dragging);
-    world.platform.Release(world.form, at.x - 420, at.y + 600);
-    EXPECT_EQ(world.table.cardy[14].Left(), 520) << "the illegal drop still finds its home";
+    world.Arrange({.columns = {{Card('H', 6)}, {Card('S', 5)}}});
+    world.form.hand.Take(Card('S', 5));
+    world.form.drops.DropOnStack(FirstColumnBase); // the base under a card of another suit
+    EXPECT_EQ(world.Cards(1), std::vector<int>{Card('S', 5)});
     EXPECT_EQ(world.TakeSounds(), Sounds{"_error.wav"});
+    EXPECT_TRUE(world.form.hand.IsEmpty());
+    EXPECT_THROW(world.table.cardy[ItemCount].Caption(), std::out_of_range);
+    EXPECT_THROW(world.table.Stacks[NoStack].Count(), std::out_of_range);
 }
 
 TEST(GesturesTest, ZonesOfStockPilesAndColumns)

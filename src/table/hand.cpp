@@ -1,0 +1,63 @@
+#include "table/hand.h"
+
+#include "table/module1.h"
+
+namespace tessarine
+{
+
+void Hand::PickUp(int card, PixelPoint cursor)
+{
+    const TextList& entries = table_.Stacks[table_.StackOf(card)];
+    const auto position = entries.Find(EntryOfCard(card));
+    if (!position) {
+        return;
+    }
+    Forget();
+    for (std::size_t i = *position; i < entries.Count(); ++i) {
+        DragCards_.push_back(CardOfEntry(entries.At(i)));
+        table_.cardy[DragCards_.back()].BringToFront();
+    }
+    const Label& head = table_.cardy[card];
+    DragHome_ = {RoundHalfEven(head.Left()), RoundHalfEven(head.Top())};
+    DragCursor_ = cursor;
+    dragging_ = true;
+}
+
+void Hand::Follow(PixelPoint cursor)
+{
+    const Whole dx = (cursor.x - DragCursor_.x) * table_.shared().TwipsX;
+    const Whole dy = (cursor.y - DragCursor_.y) * table_.shared().TwipsY;
+    DragCursor_ = cursor;
+    for (const int card : DragCards_) {
+        Label& label = table_.cardy[card];
+        label.Move(label.Left() + dx, label.Top() + dy);
+    }
+}
+
+void Hand::Take(int card)
+{
+    Forget();
+    DragCards_.push_back(card);
+}
+
+bool Hand::GoHome()
+{
+    if (!DragHome_) {
+        return false;
+    }
+    Whole top = DragHome_->top;
+    for (const int card : DragCards_) {
+        table_.cardy[card].Move(DragHome_->left, top);
+        top += table_.shared().FanStep;
+    }
+    return true;
+}
+
+void Hand::Forget()
+{
+    DragCards_.clear();
+    DragHome_.reset();
+    dragging_ = false;
+}
+
+} // namespace tessarine
