@@ -18,12 +18,16 @@ endif()
 
 get_directory_property(dataFiles DIRECTORY ${CMAKE_SOURCE_DIR}/data DEFINITION originals)
 get_directory_property(menuFiles DIRECTORY ${CMAKE_SOURCE_DIR}/data DEFINITION menuFiles)
+get_directory_property(schemes DIRECTORY ${CMAKE_SOURCE_DIR}/data DEFINITION schemes)
 install(TARGETS tessarine RUNTIME DESTINATION .)
 install(FILES ${dataFiles} DESTINATION .)
 install(PROGRAMS ${menuFiles} DESTINATION .)
 if(WIN32)
   include(WindowsPackage)
 endif()
+install(CODE "set(FROM ${schemes})
+set(TO \$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/all.col)
+include(${CMAKE_SOURCE_DIR}/cmake/LayOnce.cmake)")
 
 # A target of our own, since the toolset's would first build everything there is, tests and all. In a
 # build folder that still holds the toolset's, its settings would keep the name from us.

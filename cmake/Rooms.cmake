@@ -23,6 +23,12 @@ if(TESSARINE_SANITIZE)
   endif()
 endif()
 
+if(TESSARINE_FUZZ)
+  # So that a fuzzer sees which code it has reached.
+  target_compile_options(tessarine_options INTERFACE -fsanitize=fuzzer-no-link)
+  target_link_options(tessarine_options INTERFACE -fsanitize=fuzzer-no-link)
+endif()
+
 # tessarine_room(NAME [rooms below ...]): a static library of all the sources in src/NAME.
 function(tessarine_room name)
   file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/${name}/*.cpp)

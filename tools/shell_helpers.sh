@@ -80,12 +80,20 @@ check_versions() {
         fail "Qt 6.4 or newer is needed (this is $found): Debian 12 or Ubuntu 24.04 have it."
 }
 
-# A build folder that came along with a copied tree belongs to the place it was made in.
-drop_foreign_build() {
-    local cache=$1/CMakeCache.txt
-    [ -f "$cache" ] || return 0
-    if ! grep -qxF "CMAKE_HOME_DIRECTORY:INTERNAL=$PWD" "$cache"; then
-        say "$1 was made for another place: building it anew."
-        rm -rf -- "$1"
-    fi
+# configure FOLDER ARGUMENTS-OF-CMAKE...: prepares a build. A folder that was prepared at another place,
+# such as one that was moved or copied, is prepared anew; what a player has in it stays.
+configure() {
+    local folder=$1 fresh=()
+    shift
+    is_configured "$folder" || fresh=(--fresh)
+    mkdir -p build
+    cmake "${fresh[@]}" "$@" >build/configure.log 2>&1 || {
+        cat build/configure.log >&2
+        return 1
+    }
+}
+
+# Whether a folder was prepared, at this very place.
+is_configured() {
+    [ -f "$1/build.ninja" ] && grep -qxF "CMAKE_HOME_DIRECTORY:INTERNAL=$PWD" "$1/CMakeCache.txt"
 }
