@@ -142,21 +142,43 @@ TEST(MiddleOfAMoveTest, InputChangesNothing)
     }
 }
 
-TEST(MiddleOfAMoveTest, AButtonPressedBeforeALayoutIsLetGoInIt)
+/// A press and its release that a layout or a move comes between begin nothing, and leave no mark.
+TEST(MiddleOfAMoveTest, APressAndItsReleaseBelongTogether)
 {
     GameWorld world;
-    world.Arrange({.columns = {{Card('H', 6)}}, .stock = {Card('C', 1)}, .piles = {{Card('S', 0)}}});
-    BoxControl& button = world.form.NextCard[1];
-    const Point at = button.PlaceOnForm();
-    world.platform.Press(world.form, at.x + 50, at.y + 50);
-    ASSERT_TRUE(button.HasBorder());
-    world.platform.meanwhile.emplace_back(
-        [&] { world.platform.Release(world.form, at.x + 50, at.y + 50); });
+    world.Arrange({.columns = {{Card('H', 6)}, {Card('H', 5)}, {Card('S', 8), Card('D', 3)}},
+                   .stock = {Card('C', 1)},
+                   .piles = {{Card('S', 0)}}});
     const std::vector<int> ring = world.Cards(StockStack);
-    world.form.Command2.SetValue(true);
-    EXPECT_TRUE(world.platform.meanwhile.empty());
-    EXPECT_FALSE(button.HasBorder());
-    EXPECT_EQ(world.Cards(StockStack), ring) << "and begins nothing";
+    BoxControl& turn = world.form.NextCard[1];
+    const Point button = turn.PlaceOnForm();
+    const Point card = world.Corner(Card('D', 3));
+    const auto pressThenLetGoInALayout = [&](const Point& at, int which) {
+        world.platform.Press(world.form, at.x + 50, at.y + 50, which);
+        world.platform.meanwhile.emplace_back(
+            [&, which] { world.platform.Release(world.form, at.x + 50, at.y + 50, which); });
+        world.form.Command2.SetValue(true);
+        ASSERT_TRUE(world.platform.meanwhile.empty());
+    };
+    pressThenLetGoInALayout(button, LeftButton);
+    pressThenLetGoInALayout(card, RightButton);
+    world.platform.meanwhile.emplace_back(
+        [&] { world.platform.Press(world.form, button.x + 50, button.y + 50); });
+    world.RightClick(Card('H', 5)); // the press comes in its slide
+    world.platform.Release(world.form, button.x + 50, button.y + 50);
+    EXPECT_FALSE(turn.HasBorder());
+    EXPECT_EQ(world.Cards(StockStack), ring);
+    EXPECT_EQ(world.Cards(2).back(), Card('D', 3));
+    EXPECT_EQ(world.Cards(0), (std::vector<int>{16, 15})) << "the move itself";
+
+    // A rescale that falls due in the middle of a drag waits for its end.
+    world.platform.Press(world.form, card.x + 50, card.y + 50);
+    world.form.FeedResize({7920, 7710});
+    world.platform.Advance(250);
+    EXPECT_EQ(world.form.shared.CardWidth, 405);
+    world.platform.Release(world.form, card.x + 50, card.y + 50);
+    world.platform.Advance(100);
+    EXPECT_GT(world.form.shared.CardWidth, 700);
 }
 
 /// Somebody reads the table whenever events run during a deal: every card has its stack, and every item
