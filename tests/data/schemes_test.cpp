@@ -2,16 +2,9 @@
 // apart.
 #include "appearance/scheme_file.h"
 #include "data/read_file.h"
+#include "support/seen_contrast.h"
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <array>
-#include <cmath>
-#include <regex>
 #include <set>
-#include <string>
-#include <vector>
 
 namespace tessarine
 {
@@ -27,24 +20,8 @@ Triple Times(const Matrix& matrix, const Triple& v)
     return {row(matrix[0]), row(matrix[1]), row(matrix[2])};
 }
 
-/// The light of a colour, red, green and blue from 0 to 1.
-Triple Light(Colour colour)
-{
-    const auto linear = [](int value) {
-        const double part = value / 255.0;
-        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-    };
-    return {linear(clrRed(colour)), linear(clrGreen(colour)), linear(clrBlue(colour))};
-}
-
 constexpr Matrix ToXyz = {
     {{0.4124, 0.3576, 0.1805}, {0.2126, 0.7152, 0.0722}, {0.0193, 0.1192, 0.9505}}};
-
-/// The brightness that an eye sees, from 0 to 1.
-double Luminance(Colour colour)
-{
-    return Times(ToXyz, Light(colour))[1];
-}
 
 /// How the eyes of Machado, Oliveira and Fernandes (2009) see light: all cones, no red, no green, no
 /// blue.
@@ -67,18 +44,16 @@ double Apart(const std::vector<Colour>& colours)
     for (const Matrix& eye : Eyes) {
         std::vector<Triple> seen;
         for (const Colour colour : colours) {
-            const Triple light = Times(eye, Light(colour));
-            const Triple xyz =
-                Times(ToXyz, {std::clamp(light[0], 0.0, 1.0), std::clamp(light[1], 0.0, 1.0),
-                              std::clamp(light[2], 0.0, 1.0)});
-            const double y = f(xyz[1]);
-            seen.push_back(
-                {116 * y - 16, 500 * (f(xyz[0] / 0.9505) - y), 200 * (y - f(xyz[2] / 1.089))});
-            for (std::size_t i = 0; i + 1 < seen.size(); ++i) {
-                least =
-                    std::min(least, std::hypot(seen[i][0] - seen.back()[0], seen[i][1] - seen.back()[1],
-                                               seen[i][2] - seen.back()[2]));
+            Triple light = Times(eye, Seen(colour).Light());
+            std::ranges::transform(light, light.begin(),
+                                   [](double v) { return std::clamp(v, 0.0, 1.0); });
+            const auto [x, y, z] = Times(ToXyz, light);
+            const Triple lab = {116 * f(y), 500 * (f(x / 0.9505) - f(y)), 200 * (f(y) - f(z / 1.089))};
+            for (const Triple& other : seen) {
+                const Triple way = {lab[0] - other[0], lab[1] - other[1], lab[2] - other[2]};
+                least = std::min(least, std::hypot(way[0], way[1], way[2]));
             }
+            seen.push_back(lab);
         }
     }
     return least;
@@ -87,21 +62,13 @@ double Apart(const std::vector<Colour>& colours)
 /// The card colours that the help page proposes, from the numbers that it gives.
 std::vector<Colour> ProposedColours()
 {
-    const std::string page = ReadFile(TESSARINE_DATA_DIR "/tessarine.htm");
-    const std::regex row(
-        "<td>Colour [1-5]</td>\\s*<td[^>]*>(\\d+)</td><td[^>]*>(\\d+)</td><td[^>]*>(\\d+)<");
     std::vector<Colour> colours;
-    for (std::sregex_iterator at(page.begin(), page.end(), row), end; at != end; ++at) {
-        colours.push_back(Rgb(std::stoi((*at)[1]), std::stoi((*at)[2]), std::stoi((*at)[3])));
+    for (const auto& row :
+         Found(ReadFile(TESSARINE_DATA_DIR "/tessarine.htm"),
+               "<td>Colour [1-5]</td>\\s*<td[^>]*>(\\d+)</td><td[^>]*>(\\d+)</td><td[^>]*>(\\d+)<")) {
+        colours.push_back(Rgb(std::stoi(row[0]), std::stoi(row[1]), std::stoi(row[2])));
     }
     return colours;
-}
-
-/// 1 for equal brightness, 21 for black on white.
-double Contrast(Colour one, Colour other)
-{
-    const auto [darker, lighter] = std::minmax({Luminance(one), Luminance(other)});
-    return (lighter + 0.05) / (darker + 0.05);
 }
 
 TEST(CardColours, OfTheHelpPageAreAsFarApartForEveryEyeAsItSays)
@@ -111,7 +78,7 @@ TEST(CardColours, OfTheHelpPageAreAsFarApartForEveryEyeAsItSays)
     EXPECT_GE(Apart(proposed), 35);
     EXPECT_LE(Apart({Rgb(0, 128, 0), Rgb(128, 128, 0)}), 4) << "two of the first start";
     for (const Colour colour : proposed) {
-        EXPECT_GE(Contrast(White, colour), 4.7) << colour;
+        EXPECT_GE(SeenContrast(Seen(White), Seen(colour)), 4.7) << colour;
     }
 }
 
@@ -138,11 +105,11 @@ TEST(SchemesFile, IsToTheByteWhatTheProgramWritesAndKeepsEverythingReadable)
         }
         EXPECT_EQ(made.SchemeColors, stored.SchemeColors) << "the slider could not make it";
         EXPECT_TRUE(backgrounds.insert(stored.Background()).second) << "there twice";
-        EXPECT_GE(Contrast(stored.Button(), stored.Background()), 1.3);
+        EXPECT_GE(SeenContrast(Seen(stored.Button()), Seen(stored.Background())), 1.3);
         for (const Colour ground : {stored.Background(), stored.Button()}) {
-            EXPECT_GE(Contrast(Rgb(28, 28, 28), ground), 4.5);
+            EXPECT_GE(SeenContrast(Seen(Rgb(28, 28, 28)), Seen(ground)), 4.5);
             for (const Colour suit : suits) {
-                EXPECT_GE(Contrast(suit, ground), 1.5) << suit;
+                EXPECT_GE(SeenContrast(Seen(suit), Seen(ground)), 1.5) << suit;
             }
         }
     }

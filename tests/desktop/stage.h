@@ -6,18 +6,19 @@
 #include "runtime/controls.h"
 #include "runtime/form.h"
 
+#include <QAbstractScrollArea>
 #include <QApplication>
+#include <QImage>
 #include <QPaintEvent>
+#include <QScrollBar>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 #include <QWindow>
 
 #include <gtest/gtest.h>
 
-#include <functional>
-#include <initializer_list>
-#include <string>
-#include <utility>
+#include <fstream>
 
 namespace tessarine
 {
@@ -36,22 +37,16 @@ public:
     {
         Send(QTest::MouseClick, control, at, button);
     }
-    void Click(const Control& control)
-    {
-        Click(control, ToPixelPoint({control.Width() / 2, control.Height() / 2}));
-    }
+    void Click(const Control& control) { Click(control, QRect({}, PixelRect(control).size()).center()); }
     void Type(const Control& control, Qt::Key key) { QTest::keyClick(&WindowOf(control), key); }
 
 private:
-    static QPoint ToPixelPoint(Point point)
-    {
-        return {NearestPixel(point.x * PixelsPerTwip), NearestPixel(point.y * PixelsPerTwip)};
-    }
     void Send(QTest::MouseAction action, const Control& control, QPoint at,
               Qt::MouseButton button = Qt::LeftButton)
     {
+        const Point place = control.PlaceOnForm();
         QTest::mouseEvent(action, &WindowOf(control), action == QTest::MouseMove ? Qt::NoButton : button,
-                          {}, ToPixelPoint(control.PlaceOnForm()) + at);
+                          {}, RoundedRect(place.x, place.y, 0, 0, PixelsPerTwip).topLeft() + at);
     }
     QWindow& WindowOf(const Control& control)
     {
@@ -123,6 +118,11 @@ class DesktopTest : public testing::Test
 protected:
     DesktopTest() { surface.SetBounds(30, 450, 3900, 3000); }
     void Events() { QTest::qWait(1); }
+    /// The widget of the toolkit that stands for a control.
+    template <class Widget> Widget& Native(const Control& control)
+    {
+        return dynamic_cast<Widget&>(WidgetOf(platform, control));
+    }
     void Show(std::initializer_list<Control*> controls)
     {
         for (Control* control : controls) {

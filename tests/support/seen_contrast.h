@@ -2,6 +2,7 @@
 #pragma once
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace tessarine
@@ -12,14 +13,20 @@ struct SeenColour {
     int green;
     int blue;
 
-    /// The brightness that an eye sees, from 0 to 1.
-    double Luminance() const
+    /// Its light: red, green and blue from 0 to 1.
+    std::array<double, 3> Light() const
     {
         const auto linear = [](int value) {
             const double part = value / 255.0;
             return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
         };
-        return 0.2126 * linear(red) + 0.7152 * linear(green) + 0.0722 * linear(blue);
+        return {linear(red), linear(green), linear(blue)};
+    }
+    /// The brightness that an eye sees, from 0 to 1.
+    double Luminance() const
+    {
+        const auto [r, g, b] = Light();
+        return 0.2126 * r + 0.7152 * g + 0.0722 * b;
     }
 };
 
