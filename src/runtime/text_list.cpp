@@ -12,8 +12,9 @@ namespace
 
 bool ComesBefore(const std::string& a, const std::string& b)
 {
-    const auto byLetters = Folded(a) <=> Folded(b);
-    return byLetters == 0 ? a < b : byLetters < 0;
+    const auto oneLetters = Folded(a);
+    const auto otherLetters = Folded(b);
+    return oneLetters == otherLetters ? a < b : oneLetters < otherLetters;
 }
 
 } // namespace
