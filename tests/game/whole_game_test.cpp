@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <functional>
 
 namespace tessarine::test
 {
@@ -28,131 +27,87 @@ TEST(WholeGameTest, RandomPlayKeepsTheTableInOrder)
     }
 }
 
-/// A deal that plays itself to the win: each column and the stock hold the suits in order.
-GameWorld::Position AlmostDone()
-{
-    GameWorld::Position position;
-    for (const char suit : {'S', 'H', 'D', 'C'}) {
-        std::vector<int> pile;
-        for (int number = 0; number < CardsInSuit; ++number) {
-            pile.push_back(Card(suit, number));
-        }
-        position.piles.push_back(pile);
-    }
-    position.piles.push_back({Card('O', 0), Card('O', 1), Card('O', 2), Card('O', 3), Card('O', 4),
-                              Card('O', 5), Card('O', 6)});
-    return position;
-}
-
-void ExpectWon(GameWorld& world)
-{
-    EXPECT_EQ(world.platform.modalCaptions, std::vector<std::string>{"Tessarine"});
-    EXPECT_EQ(world.form.Score1.ThisSession[1].Caption(), "1");
-    EXPECT_EQ(world.form.Score1.AllSessions[2].Caption(), "1");
-    EXPECT_EQ(world.form.Score1.AllSessions[4].Caption(), "0");
-    EXPECT_EQ(world.Cards(7).size(), 7U) << "the next game is dealt";
-    EXPECT_EQ(world.Fault(), "");
-    std::string order;
-    for (const std::string& card : world.table.CardOrder) {
-        order += card + "\r\n";
-    }
-    EXPECT_EQ(world.platform.files["/app/tempgame.txt"], order);
-}
-
 TEST(WholeGameTest, EveryWayToTheWinEndsOnce)
 {
     const auto play = [](const std::vector<int>& column, const std::vector<int>& stock, auto&& gesture) {
-        GameWorld world;
-        GameWorld::Position position = AlmostDone();
-        position.columns = {column};
-        position.stock = stock;
-        world.Arrange(position);
-        std::string message;
-        world.platform.OnNextModal([&](Form& form) {
-            message = static_cast<MsgForm&>(form).Label1.Caption();
-            world.platform.Click(static_cast<MsgForm&>(form).cmd[0]);
-        });
+        // The rest of the game, done: all of four suits, and the last one up to its 6.
+        GameWorld::Position position{.columns = {column}, .stock = stock, .piles = {{}, {}, {}, {}, {}}};
+        for (int card = S0; card <= O6; ++card) {
+            position.piles[At(card / CardsInSuit)].push_back(card);
+        }
+        GameWorld world(position);
+        std::vector<std::string> told;
+        Answer(world.platform, "Ok", told);
         gesture(world);
-        EXPECT_EQ(message, "Its all done!");
-        ExpectWon(world);
+        EXPECT_EQ(told, std::vector<std::string>{"Its all done!"});
+        EXPECT_EQ(world.platform.modalCaptions, std::vector<std::string>{"Tessarine"});
+        EXPECT_EQ(world.form.Score1.ThisSession[1].Caption(), "1");
+        EXPECT_EQ(world.form.Score1.AllSessions[2].Caption(), "1");
+        EXPECT_EQ(world.form.Score1.AllSessions[4].Caption(), "0");
+        EXPECT_EQ(world.Cards(7).size(), 7U) << "the next game is dealt";
+        EXPECT_EQ(world.Fault(), "");
+        EXPECT_EQ(world.platform.files["/app/tempgame.txt"], world.Order());
     };
     constexpr int last = FirstPileBase + 4;
     // A press in the events after the message begins nothing: the game counts once.
-    play({Card('O', 9), Card('O', 8), Card('O', 7)}, {}, [](GameWorld& w) {
-        for (int pump = 0; pump < 400; ++pump) {
-            w.platform.meanwhile.emplace_back([&w] {
-                w.form.cmdnewgame.UserActivates();
-                w.Press(w.form.cmdnewgame);
-            });
-        }
-        w.RightClick(Card('O', 7));
+    play({O9, O8, O7}, {}, [](GameWorld& w) {
+        w.platform.meanwhile.assign(400, [&w] {
+            w.form.cmdnewgame.UserActivates();
+            w.Press(w.form.cmdnewgame);
+        });
+        w.RightClick(O7);
         w.platform.meanwhile.clear();
     });
     // By automove, by the right click and the drag of a last card, from a column and from the stock.
-    play({Card('O', 9), Card('O', 8), Card('O', 7)}, {},
-         [](GameWorld& w) { w.RightClick(Card('O', 7)); });
-    play({Card('O', 9), Card('O', 8), Card('O', 7)}, {},
-         [](GameWorld& w) { w.DragOnto(Card('O', 9), last); });
-    const auto toLastOfStock = [](GameWorld& w) {
-        w.RightClick(Card('O', 7));
-        w.RightClick(Card('O', 8));
-    };
-    play({Card('O', 8), Card('O', 7)}, {Card('O', 9)}, [&](GameWorld& w) {
-        toLastOfStock(w);
-        w.RightClick(Card('O', 9));
-    });
-    play({Card('O', 8), Card('O', 7)}, {Card('O', 9)}, [&](GameWorld& w) {
-        toLastOfStock(w);
-        w.DragOnto(Card('O', 9), last);
-    });
+    play({O9, O8, O7}, {}, [](GameWorld& w) { w.RightClick(O7); });
+    play({O9, O8, O7}, {}, [](GameWorld& w) { w.DragOnto(O9, last); });
+    for (const bool byDrag : {false, true}) {
+        play({O8, O7}, {O9}, [byDrag](GameWorld& w) {
+            w.RightClick(O7);
+            w.RightClick(O8);
+            byDrag ? w.DragOnto(O9, last) : w.RightClick(O9);
+        });
+    }
 }
 
 /// Input at each step of a slide, when the card is between two places.
 TEST(MiddleOfAMoveTest, InputChangesNothing)
 {
-    for (int step = 0; step < 10; ++step) {
-        GameWorld world;
-        world.Arrange({.columns = {{Card('H', 6)}, {Card('H', 5)}, {Card('S', 3)}, {Card('S', 2)}},
-                       .stock = {Card('C', 1), Card('C', 2)}});
+    for (std::size_t step = 0; step < 10; ++step) {
+        GameWorld world({.columns = {{H6}, {H5}, {S3}, {S2}}, .stock = {C1, C2}});
         const std::vector<int> stock = world.Cards(StockStack);
         // Each pump inside the move takes the next entry; the waits of the slide are ten of them.
-        for (int before = 0; before < step; ++before) {
-            world.platform.meanwhile.emplace_back([] {});
-        }
+        world.platform.meanwhile.assign(step, [] {});
         world.platform.meanwhile.emplace_back([&world] {
-            world.RightClick(Card('S', 2));
-            world.DragOnto(Card('S', 2), Card('S', 3));
+            world.RightClick(S2);
+            world.DragOnto(S2, S3);
             world.Press(world.form.NextCard[1]);
             world.Press(world.form.cmdnewgame);
             world.Press(world.form.cmdundo);
             world.form.NextCard[1].UserActivates();
             world.form.FeedResize({7920, 7710});
         });
-        world.RightClick(Card('H', 5));
-        EXPECT_EQ(world.Cards(0), (std::vector<int>{16, 15})) << step;
-        EXPECT_EQ(world.Cards(3), std::vector<int>{Card('S', 2)}) << step;
+        world.RightClick(H5);
+        EXPECT_EQ(world.Cards(0), (std::vector<int>{H6, H5})) << step;
+        EXPECT_EQ(world.Cards(3), std::vector<int>{S2}) << step;
         EXPECT_EQ(world.Cards(StockStack), stock) << step;
-        EXPECT_EQ(world.table.cardy[15].Top(), 1075) << "not rescaled in the middle";
+        EXPECT_EQ(world.table.cardy[H5].Top(), 1075) << "not rescaled in the middle";
         EXPECT_TRUE(world.platform.modalCaptions.empty()) << step;
-        EXPECT_FALSE(world.form.hand.Dragging());
         // The rescale that fell due comes after the move.
         world.platform.Advance(200);
         EXPECT_NEAR(world.form.shared.CardWidth, 405 * 8040.0 / 4080, 1) << step;
-        EXPECT_EQ(world.table.cardy[15].Top(), world.table.StackTop[0] + world.form.shared.FanStep);
+        EXPECT_EQ(world.table.cardy[H5].Top(), world.table.StackTop[0] + world.form.shared.FanStep);
     }
 }
 
 /// A press and its release that a layout or a move comes between begin nothing, and leave no mark.
 TEST(MiddleOfAMoveTest, APressAndItsReleaseBelongTogether)
 {
-    GameWorld world;
-    world.Arrange({.columns = {{Card('H', 6)}, {Card('H', 5)}, {Card('S', 8), Card('D', 3)}},
-                   .stock = {Card('C', 1)},
-                   .piles = {{Card('S', 0)}}});
+    GameWorld world({.columns = {{H6}, {H5}, {S8, D3}}, .stock = {C1}, .piles = {{S0}}});
     const std::vector<int> ring = world.Cards(StockStack);
     BoxControl& turn = world.form.NextCard[1];
     const Point button = turn.PlaceOnForm();
-    const Point card = world.Corner(Card('D', 3));
+    const Point card = world.Corner(D3);
     const auto pressThenLetGoInALayout = [&](const Point& at, int which) {
         world.platform.Press(world.form, at.x + 50, at.y + 50, which);
         world.platform.meanwhile.emplace_back(
@@ -164,12 +119,12 @@ TEST(MiddleOfAMoveTest, APressAndItsReleaseBelongTogether)
     pressThenLetGoInALayout(card, RightButton);
     world.platform.meanwhile.emplace_back(
         [&] { world.platform.Press(world.form, button.x + 50, button.y + 50); });
-    world.RightClick(Card('H', 5)); // the press comes in its slide
+    world.RightClick(H5); // the press comes in its slide
     world.platform.Release(world.form, button.x + 50, button.y + 50);
     EXPECT_FALSE(turn.HasBorder());
     EXPECT_EQ(world.Cards(StockStack), ring);
-    EXPECT_EQ(world.Cards(2).back(), Card('D', 3));
-    EXPECT_EQ(world.Cards(0), (std::vector<int>{16, 15})) << "the move itself";
+    EXPECT_EQ(world.Cards(2).back(), D3);
+    EXPECT_EQ(world.Cards(0), (std::vector<int>{H6, H5})) << "the move itself";
 
     // A rescale that falls due in the middle of a drag waits for its end.
     world.platform.Press(world.form, card.x + 50, card.y + 50);
@@ -188,7 +143,7 @@ TEST(MiddleOfAMoveTest, ADealIsWholeBeforeAnythingElseRuns)
     GameWorld world;
     int readings = 0;
     std::string fault;
-    const std::function<void()> read = [&] {
+    const auto read = [&] {
         ++readings;
         for (int card = 0; card < CardCount; ++card) {
             int places = 0;
@@ -207,9 +162,7 @@ TEST(MiddleOfAMoveTest, ADealIsWholeBeforeAnythingElseRuns)
             fault = item.Visible() || name.empty() ? fault : "hidden, yet told: " + name;
         }
     };
-    for (int pump = 0; pump < 25; ++pump) {
-        world.platform.meanwhile.emplace_back(read);
-    }
+    world.platform.meanwhile.assign(25, read);
     world.form.deal.NewDeal();
     EXPECT_EQ(fault, "");
     EXPECT_EQ(readings, 25) << "events run at each face that is drawn";
@@ -217,19 +170,16 @@ TEST(MiddleOfAMoveTest, ADealIsWholeBeforeAnythingElseRuns)
 
 TEST(MiddleOfAMoveTest, ACloseEndsTheProgramAtOnce)
 {
-    for (int step = 0; step < 10; ++step) {
-        GameWorld world;
-        world.Arrange({.columns = {{Card('H', 6)}, {Card('H', 5)}, {Card('S', 3)}}});
+    for (std::size_t step = 0; step < 10; ++step) {
+        GameWorld world({.columns = {{H6}, {H5}, {S3}}});
         const auto files = world.platform.files;
-        for (int before = 0; before < step; ++before) {
-            world.platform.meanwhile.emplace_back([] {});
-        }
+        world.platform.meanwhile.assign(step, [] {});
         bool ended = false;
         world.platform.meanwhile.emplace_back([&] {
             world.form.FeedClose();
             ended = world.platform.ended;
         });
-        world.RightClick(Card('H', 5));
+        world.RightClick(H5);
         EXPECT_TRUE(ended) << step;
         EXPECT_EQ(world.platform.files, files) << step;
     }
@@ -240,12 +190,8 @@ TEST(StartTest, FirstRunTellsOnceAndWritesItsFiles)
     HeadlessPlatform platform;
     platform.files["/app/all.col"] = "";
     std::vector<std::string> told;
-    for (int box = 0; box < 2; ++box) {
-        platform.OnNextModal([&](Form& form) {
-            told.push_back(static_cast<MsgForm&>(form).Label1.Caption());
-            platform.Click(static_cast<MsgForm&>(form).cmd[0]);
-        });
-    }
+    Answer(platform, "Ok", told);
+    Answer(platform, "Ok", told);
     Form1 form(platform, "/app", "tessarine");
     form.Start();
     EXPECT_EQ(told, (std::vector<std::string>{
@@ -264,10 +210,7 @@ TEST(StartTest, AFolderThatCanNotBeWrittenIsToldAndPlayedIn)
     platform.readOnlyFolders = {"/app", "/run"};
     std::vector<std::string> told;
     for (int box = 0; box < 3; ++box) { // the configuration, the scheme, the deal
-        platform.OnNextModal([&](Form& form) {
-            told.push_back(static_cast<MsgForm&>(form).Label1.Caption());
-            platform.Click(static_cast<MsgForm&>(form).cmd[0]);
-        });
+        Answer(platform, "Ok", told);
     }
     Form1 form(platform, "/app", "tessarine");
     form.Start();
@@ -281,7 +224,6 @@ TEST(StartTest, AFolderThatCanNotBeWrittenIsToldAndPlayedIn)
 TEST(StartTest, ComesUpAtTheStoredSizeAndNeverWithTheOldDeal)
 {
     GameWorld first;
-    const std::string deal = first.platform.files["/app/tempgame.txt"];
     first.form.scaling.ScaleTable(1.5F);
     first.platform.AnswerModal("Yes");
     first.Press(first.form.cmdexit);
@@ -294,7 +236,7 @@ TEST(StartTest, ComesUpAtTheStoredSizeAndNeverWithTheOldDeal)
     EXPECT_EQ(again.shared.AppDir, "/app/");
     EXPECT_EQ(again.shared.CardWidth, 608);    // 607.5 to the even
     EXPECT_EQ(again.table.StackLeft[7], 5104); // 3400 x 608 / 405
-    EXPECT_NE(platform.files["/app/tempgame.txt"], deal);
+    EXPECT_NE(platform.files["/app/tempgame.txt"], first.Order());
     EXPECT_EQ(platform.unscriptedModals, 0);
 }
 

@@ -4,59 +4,43 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 namespace tessarine::test
 {
 namespace
 {
 
-/// Notes the text of the next message box and presses a button on it.
-void Answer(GameWorld& world, const std::string& caption, std::vector<std::string>& told)
-{
-    world.platform.OnNextModal([&world, caption, &told](Form& form) {
-        auto& box = static_cast<MsgForm&>(form);
-        told.push_back(box.Label1.Caption());
-        for (BoxControl& button : box.cmd) {
-            if (button.Visible() && button.Caption() == caption) {
-                world.platform.Click(button);
-                return;
-            }
-        }
-        ADD_FAILURE() << "no button " << caption << " on: " << box.Label1.Caption();
-    });
-}
+using Texts = std::vector<std::string>;
 
-std::string OrderText(const GameWorld& world)
+/// Presses a command whose boxes are answered with these buttons; what they told.
+Texts Press(GameWorld& world, BoxControl& command, const Texts& answers)
 {
-    std::string text;
-    for (const std::string& card : world.table.CardOrder) {
-        text += card + "\r\n";
+    Texts told;
+    for (const std::string& answer : answers) {
+        Answer(world.platform, answer, told);
     }
-    return text;
+    world.Press(command);
+    EXPECT_EQ(told.size(), answers.size());
+    told.resize(answers.size());
+    return told;
 }
 
 TEST(GameCommandsTest, SaveTakesTheFirstFreeNameAndTheDealFromItsStart)
 {
     GameWorld world;
-    std::vector<std::string> told;
     const std::string deal = world.platform.files["/app/tempgame.txt"];
     world.RightClick(world.table.TopCard(7));
-    for (int i = 0; i < 2; ++i) {
-        Answer(world, "Ok", told);
-        world.Press(world.form.cmdSaveGame);
+    for (const std::string name : {"/app/savedgame;01.gam", "/app/savedgame;02.gam"}) {
+        EXPECT_EQ(Press(world, world.form.cmdSaveGame, {"Ok"}), Texts{"Game saved to file:\r\n" + name});
+        EXPECT_EQ(world.platform.files[name], deal);
         world.platform.files["/app/tempgame.txt"] = "of another program in this folder";
     }
-    EXPECT_EQ(told, (std::vector<std::string>{"Game saved to file:\r\n/app/savedgame;01.gam",
-                                              "Game saved to file:\r\n/app/savedgame;02.gam"}));
-    EXPECT_EQ(world.platform.files["/app/savedgame;01.gam"], deal);
-    EXPECT_EQ(world.platform.files["/app/savedgame;02.gam"], deal);
-
     for (int n = 1; n < 100; ++n) {
         world.platform.files["/app/savedgame;" + TwoDigits(n) + ".gam"] = "mine";
     }
-    Answer(world, "Ok", told);
     const auto before = world.platform.files;
-    world.Press(world.form.cmdSaveGame);
-    EXPECT_NE(told.back().find("99"), std::string::npos);
+    EXPECT_NE(Press(world, world.form.cmdSaveGame, {"Ok"})[0].find("99"), std::string::npos);
     EXPECT_EQ(world.platform.files, before);
 }
 
@@ -64,27 +48,22 @@ TEST(GameCommandsTest, LoadMakesTheFileTheCurrentGame)
 {
     GameWorld other(7);
     GameWorld world;
-    world.platform.files["/else/x.gam"] = OrderText(other);
-    std::vector<std::string> told;
+    world.platform.files["/else/x.gam"] = other.Order();
     world.Press(world.form.cmdLoadGame); // cancelled
-    EXPECT_NE(OrderText(world), OrderText(other));
+    EXPECT_NE(world.Order(), other.Order());
 
     world.platform.chosenFiles.push_back("/else/x.gam");
-    Answer(world, "Ok", told);
-    world.Press(world.form.cmdLoadGame);
-    EXPECT_EQ(told, std::vector<std::string>{"Game restored from file:\r\n/else/x.gam"});
-    EXPECT_EQ(OrderText(world), OrderText(other));
-    EXPECT_EQ(world.platform.files["/app/tempgame.txt"], OrderText(other));
+    EXPECT_EQ(Press(world, world.form.cmdLoadGame, {"Ok"}),
+              Texts{"Game restored from file:\r\n/else/x.gam"});
+    EXPECT_EQ(world.Order(), other.Order());
+    EXPECT_EQ(world.platform.files["/app/tempgame.txt"], other.Order());
     EXPECT_EQ(world.platform.fileDialogs.back().types, "*.gam");
     EXPECT_EQ(world.platform.fileDialogs.back().folder, "/app/");
     EXPECT_EQ(world.form.Score1.AllSessions[1].Caption(), "0");
 
     world.RightClick(world.table.TopCard(7));
     world.platform.files.erase("/app/tempgame.txt"); // it is written anew
-    Answer(world, "Yes", told);
-    Answer(world, "Ok", told);
-    world.Press(world.form.cmdreset);
-    EXPECT_EQ(told.back(), "Game restored");
+    EXPECT_EQ(Press(world, world.form.cmdreset, {"Yes", "Ok"})[1], "Game restored");
     EXPECT_EQ(world.Cards(7), other.Cards(7));
     EXPECT_EQ(world.Fault(), "");
 }
@@ -92,92 +71,70 @@ TEST(GameCommandsTest, LoadMakesTheFileTheCurrentGame)
 TEST(GameCommandsTest, WhatIsNoGameFileIsRefusedBeforeAnythingChanges)
 {
     const GameWorld other(7);
-    const std::string good = OrderText(other);
+    const std::string good = other.Order();
     std::string twice = good;
     twice.replace(4, 2, good.substr(0, 2));
-    const std::vector<std::string> bad = {"",
-                                          "nonsense",
-                                          good.substr(0, 196),
-                                          twice,
-                                          "50" + good.substr(2),
-                                          "+1" + good.substr(2),
-                                          "\r\n" + good};
+    const Texts bad = {"",
+                       "nonsense",
+                       good.substr(0, 196),
+                       twice,
+                       "50" + good.substr(2),
+                       "+1" + good.substr(2),
+                       "\r\n" + good};
     for (const std::string& text : bad) {
-        GameWorld world;
-        world.Arrange({.columns = {{Card('S', 9)}}, .stock = {Card('C', 9)}});
-        world.DragOnto(Card('C', 9), FirstColumnBase + 2);
-        const std::string order = OrderText(world);
+        GameWorld world({.columns = {{S9}}, .stock = {C9}});
+        world.DragOnto(C9, FirstColumnBase + 2);
+        const std::string order = world.Order();
         world.platform.files["/app/bad.gam"] = text;
         world.platform.chosenFiles.push_back("/app/bad.gam");
         const auto files = world.platform.files;
-        std::vector<std::string> told;
-        Answer(world, "Ok", told);
-        world.Press(world.form.cmdLoadGame);
-        ASSERT_EQ(told.size(), 1U);
+        const Texts told = Press(world, world.form.cmdLoadGame, {"Ok"});
         EXPECT_NE(told[0].find("/app/bad.gam"), std::string::npos);
-        EXPECT_EQ(OrderText(world), order);
-        EXPECT_EQ(world.Cards(2), std::vector<int>{Card('C', 9)});
+        EXPECT_EQ(world.Order(), order);
+        EXPECT_EQ(world.Cards(2), std::vector<int>{C9});
         EXPECT_EQ(world.form.undo.Count(), 1U);
         EXPECT_EQ(world.platform.files, files);
         EXPECT_FALSE(world.platform.busy);
     }
     // LF alone ends a line too, and what follows the fiftieth does not count.
-    std::string lines;
-    for (const char c : good) {
-        lines += c == '\r' ? std::string() : std::string(1, c);
-    }
+    std::string lines = good;
+    std::erase(lines, '\r');
     EXPECT_EQ(FaultOfGame(SplitLines(lines + "and more\n00\n")), "");
 }
 
 TEST(GameCommandsTest, NewGameAsksAndCounts)
 {
     GameWorld world;
-    const std::string deal = OrderText(world);
-    std::vector<std::string> told;
-    Answer(world, "No", told);
-    world.Press(world.form.cmdnewgame);
-    EXPECT_EQ(OrderText(world), deal);
+    const std::string deal = world.Order();
+    Press(world, world.form.cmdnewgame, {"No"});
+    EXPECT_EQ(world.Order(), deal);
     EXPECT_EQ(world.form.Score1.ThisSession[1].Caption(), "0");
-    Answer(world, "Yes", told);
-    world.Press(world.form.cmdnewgame);
-    EXPECT_EQ(told.back(), "Abandon current game?");
-    EXPECT_NE(OrderText(world), deal);
-    EXPECT_EQ(world.platform.files["/app/tempgame.txt"], OrderText(world));
+    EXPECT_EQ(Press(world, world.form.cmdnewgame, {"Yes"}), Texts{"Abandon current game?"});
+    EXPECT_NE(world.Order(), deal);
+    EXPECT_EQ(world.platform.files["/app/tempgame.txt"], world.Order());
     EXPECT_EQ(world.form.Score1.AllSessions[4].Caption(), "1");
-    EXPECT_EQ(world.TakeSounds(), (std::vector<std::string>{"_menu.wav", "_menu.wav", "_shuf.wav"}));
+    EXPECT_EQ(world.TakeSounds(), (Texts{"_menu.wav", "_menu.wav", "_shuf.wav"}));
 }
 
-TEST(ProgramCommandsTest, ExitStoresAndEnds)
+TEST(ProgramCommandsTest, ExitStoresAndEndsAndAClosedWindowWritesNothing)
 {
     GameWorld world;
     world.form.scaling.ScaleTable(2.0F);
-    std::vector<std::string> told;
     const auto before = world.platform.files;
-    Answer(world, "No", told);
-    world.Press(world.form.cmdexit);
+    Press(world, world.form.cmdexit, {"No"});
     EXPECT_FALSE(world.platform.ended);
+    world.ForgetSounds();
+    world.form.FeedClose();
+    EXPECT_TRUE(std::exchange(world.platform.ended, false));
     EXPECT_EQ(world.platform.files, before);
-    Answer(world, "Yes", told);
+    EXPECT_TRUE(world.platform.modalCaptions.size() == 1 && world.platform.sounds.empty());
     world.Press(world.form.cmdhelp);
     world.ForgetSounds();
-    world.Press(world.form.cmdexit);
-    EXPECT_EQ(told.back(), "Exit?");
+    EXPECT_EQ(Press(world, world.form.cmdexit, {"Yes"}), Texts{"Exit?"});
     EXPECT_TRUE(world.platform.ended);
     EXPECT_NE(world.platform.files["/app/tessarine.cfg"].find("\r\n 2 \r\n"), std::string::npos);
-    EXPECT_EQ(world.TakeSounds(), (std::vector<std::string>{"_menu.wav", "_exit.wav"}));
+    EXPECT_EQ(world.TakeSounds(), (Texts{"_menu.wav", "_exit.wav"}));
     EXPECT_TRUE(world.form.AllForms().Loaded().empty());
-}
-
-TEST(ProgramCommandsTest, ClosingEndsAtOnceAndWritesNothing)
-{
-    GameWorld world;
-    world.form.scaling.ScaleTable(2.0F);
-    const auto before = world.platform.files;
-    world.form.FeedClose();
-    EXPECT_TRUE(world.platform.ended);
-    EXPECT_EQ(world.platform.files, before);
-    EXPECT_TRUE(world.platform.modalCaptions.empty());
-    EXPECT_TRUE(world.platform.sounds.empty());
 }
 
 TEST(ProgramCommandsTest, ScoresPanelLeavesTheTableLive)
@@ -187,7 +144,7 @@ TEST(ProgramCommandsTest, ScoresPanelLeavesTheTableLive)
     EXPECT_TRUE(world.form.Score1.Visible());
     EXPECT_EQ(world.table.Picture2.Children().back(), &world.form.Score1);
     world.Press(world.form.NextCard[1]);
-    EXPECT_EQ(world.TakeSounds(), (std::vector<std::string>{"_menu.wav", "_nextcard.wav"}));
+    EXPECT_EQ(world.TakeSounds(), (Texts{"_menu.wav", "_nextcard.wav"}));
     world.Press(world.form.Score1.Command1);
     EXPECT_FALSE(world.form.Score1.Visible());
 }
@@ -226,11 +183,11 @@ private:
         const std::string file = text.substr(text.find('\n') + 1);
         EXPECT_FALSE(world_.platform.busy) << text;
         if (text == "Restore current game?") {
-            deal_ = OrderText(world_);
+            deal_ = world_.Order();
         } else if (text == "Game restored") {
-            EXPECT_EQ(OrderText(world_), deal_);
+            EXPECT_EQ(world_.Order(), deal_);
         } else if (text.starts_with("Game saved to") || text.starts_with("Game restored from")) {
-            EXPECT_EQ(OrderText(world_), world_.platform.files[file]) << text;
+            EXPECT_EQ(world_.Order(), world_.platform.files[file]) << text;
         }
         world_.platform.Click(box.cmd[0]);
     }
@@ -264,7 +221,7 @@ TEST(DiskTest, WhateverFailsNothingIsLostAndWhatIsToldIsTrue)
         [](GameWorld& w) { w.form.configuration.ReadcfgFile(); },
         [](GameWorld& w) { w.form.gameCommands.GameWon(); },
     };
-    const std::string old = OrderText(GameWorld(7));
+    const std::string old = GameWorld(7).Order();
     const auto tryOut = [&](const Command& command, int failing, bool fromThere, FileFault why) {
         GameWorld world;
         world.platform.files["/app/old.gam"] = old;
@@ -295,22 +252,19 @@ TEST(DiskTest, WhateverFailsNothingIsLostAndWhatIsToldIsTrue)
 
 TEST(DiskTest, TellsWhichFileAndWhy)
 {
-    const std::vector<std::pair<FileFault, std::string>> cases = {{FileFault::Full, "full"},
-                                                                  {FileFault::Forbidden, "protected"},
-                                                                  {FileFault::IsFolder, "folder"},
-                                                                  {FileFault::Missing, "not there"}};
+    const std::map<FileFault, std::string> cases = {{FileFault::Full, "full"},
+                                                    {FileFault::Forbidden, "protected"},
+                                                    {FileFault::IsFolder, "folder"},
+                                                    {FileFault::Missing, "not there"}};
     for (const auto& [why, words] : cases) {
         // The copy can't be written; the snapshot can neither be read nor written.
         for (const auto& [failing, file] :
              {std::pair{2, "/app/savedgame;01.gam"}, std::pair{0, "/app/tempgame.txt"}}) {
             GameWorld world;
-            std::vector<std::string> told;
-            Answer(world, "Ok", told);
             world.platform.ResetFileOperations(failing, true, why);
-            world.Press(world.form.cmdSaveGame);
-            ASSERT_EQ(told.size(), 1U);
-            EXPECT_NE(told[0].find(file), std::string::npos) << told[0];
-            EXPECT_NE(told[0].find(words), std::string::npos) << told[0];
+            const std::string told = Press(world, world.form.cmdSaveGame, {"Ok"})[0];
+            EXPECT_NE(told.find(file), std::string::npos) << told;
+            EXPECT_NE(told.find(words), std::string::npos) << told;
         }
     }
 }

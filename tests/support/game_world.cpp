@@ -1,8 +1,9 @@
 #include "support/game_world.h"
 
-#include "table/rules.h"
+#include "runtime/files.h"
 
 #include <set>
+#include <stdexcept>
 #include <utility>
 
 namespace tessarine::test
@@ -10,30 +11,33 @@ namespace tessarine::test
 namespace
 {
 
-std::string SchemeFileText()
-{
-    std::string text = "default.col\r\n";
-    for (int slot = 0; slot < 13; ++slot) {
-        text += slot == 4 ? " 90; 140; 90\r\n" : " 120; 170; 120\r\n";
-    }
-    return text;
-}
+constexpr Twips Grip = 60; ///< of a card, from its corner
 
 /// Puts the files of an installed program in place before the form is made.
 HeadlessPlatform& Prepared(HeadlessPlatform& platform, const std::string& scale = "1")
 {
-    platform.files["/app/all.col"] = SchemeFileText();
+    std::string& scheme = platform.files["/app/all.col"] = "default.col\r\n";
+    for (int slot = 0; slot < 13; ++slot) {
+        scheme += slot == 4 ? " 90; 140; 90\r\n" : " 120; 170; 120\r\n";
+    }
     platform.files["/app/tessarine.cfg"] =
-        "stamp\r\n 1 16777215 1 \r\n " + scale +
-        " \r\n 0 \r\n 8388608 \r\n 32768 \r\n 32896 \r\n 128 \r\ndefault.col\r\narial\r\n";
+        "stamp\r\n 1 16777215 1 \r\n " + scale + " \r\n 0 \r\n" +
+        " 8388608 \r\n 32768 \r\n 32896 \r\n 128 \r\ndefault.col\r\narial\r\n";
     return platform;
 }
 
 } // namespace
 
-int Card(char suit, int number)
+void Answer(HeadlessPlatform& platform, const std::string& caption, std::vector<std::string>& told)
 {
-    return static_cast<int>(SuitLetters.find(suit)) * CardsInSuit + number;
+    platform.OnNextModal([&platform, caption, &told](Form& form) {
+        told.push_back(static_cast<MsgForm&>(form).Label1.Caption());
+        Control* const button = HeadlessPlatform::FindShown(form, caption);
+        if (button == nullptr) {
+            throw std::logic_error("no button " + caption + " on: " + told.back());
+        }
+        platform.Click(*button);
+    });
 }
 
 GameWorld::GameWorld(std::uint64_t seed) : platform(seed), form(Prepared(platform), "/app", "tessarine")
@@ -46,6 +50,11 @@ GameWorld::GameWorld(Size screen, const std::string& scale)
     : form((platform.screen = screen, Prepared(platform, scale)), "/app", "tessarine")
 {
     form.Start();
+}
+
+GameWorld::GameWorld(const Position& position) : GameWorld()
+{
+    Arrange(position);
 }
 
 void GameWorld::Arrange(const Position& position)
@@ -79,15 +88,9 @@ void GameWorld::Arrange(const Position& position)
     platform.sounds.clear();
 }
 
-void GameWorld::DealFrom(const std::vector<int>& order)
+std::string GameWorld::Order() const
 {
-    std::string text;
-    for (const int card : order) {
-        text += TwoDigits(card) + "\r\n";
-    }
-    platform.files["/app/tempgame.txt"] = text;
-    form.gameFile.LoadCardOrder("/app/tempgame.txt");
-    form.undo.Clear();
+    return JoinLines({table.CardOrder.begin(), table.CardOrder.end()});
 }
 
 std::vector<int> GameWorld::Cards(int stack) const
@@ -104,29 +107,38 @@ Point GameWorld::Corner(int item) const
     return table.cardy[At(item)].PlaceOnForm();
 }
 
+Point GameWorld::Place(int item) const
+{
+    return {table.cardy[item].Left(), table.cardy[item].Top()};
+}
+
+void GameWorld::Grab(int item, Twips right, Twips down)
+{
+    // A grip near the corner is on the card also where the next one of a run covers the rest.
+    const Point from = Corner(item);
+    platform.Press(form, from.x + Grip, from.y + Grip);
+    platform.MoveMouse(form, from.x + right + Grip, from.y + down + Grip);
+}
+
 void GameWorld::DragToPoint(int item, Twips left, Twips top)
 {
     const Point from = Corner(item);
-    const Point to{left + table.Picture2.Left(), top + table.Picture2.Top()};
-    // A grip near the corner is on the card also where the next one of a run covers the rest.
-    const Twips grip = 60;
-    platform.Press(form, from.x + grip, from.y + grip);
-    platform.MoveMouse(form, (from.x + to.x) / 2 + grip, (from.y + to.y) / 2 + grip);
-    platform.MoveMouse(form, to.x + grip, to.y + grip);
-    platform.Release(form, to.x + grip, to.y + grip);
+    const Point to{left + table.Picture2.Left() + Grip, top + table.Picture2.Top() + Grip};
+    Grab(item, (to.x - Grip - from.x) / 2, (to.y - Grip - from.y) / 2);
+    platform.MoveMouse(form, to.x, to.y);
+    platform.Release(form, to.x, to.y);
 }
 
 void GameWorld::DragOnto(int item, int target)
 {
-    const Label& place = table.cardy[At(target)];
-    DragToPoint(item, place.Left(), place.Top());
+    DragToPoint(item, Place(target).x, Place(target).y);
 }
 
 void GameWorld::RightClick(int item)
 {
     const Point corner = Corner(item);
-    platform.Press(form, corner.x + 60, corner.y + 60, RightButton);
-    platform.Release(form, corner.x + 60, corner.y + 60, RightButton);
+    platform.Press(form, corner.x + Grip, corner.y + Grip, RightButton);
+    platform.Release(form, corner.x + Grip, corner.y + Grip, RightButton);
 }
 
 std::vector<std::string> GameWorld::TakeSounds()
@@ -138,83 +150,44 @@ std::vector<std::string> GameWorld::TakeSounds()
     return std::exchange(platform.sounds, {});
 }
 
-std::string GameWorld::FaultOfColumn(int column) const
-{
-    const TextList& entries = table.Stacks[At(column)];
-    for (std::size_t i = 0; i < entries.Count(); ++i) {
-        const int card = CardOfEntry(entries.At(i));
-        const bool isLast = i + 1 == entries.Count();
-        if (isLast && !table.IsFaceUp(card)) {
-            return "the last card of a column is face-down";
-        }
-        if (!isLast && table.IsFaceUp(card)) {
-            const int next = CardOfEntry(entries.At(i + 1));
-            if (!table.IsFaceUp(next) || !FollowsInColumn(table, next, card)) {
-                return "a face-up card of a column is followed by one that does not fit";
-            }
-        }
-    }
-    return {};
-}
-
-std::string GameWorld::FaultOfPile(int pile) const
-{
-    int number = 0;
-    for (const int card : Cards(pile)) {
-        if (table.CardNumber(card) != number++ ||
-            table.CardSuit(card) != table.CardSuit(Cards(pile)[0])) {
-            return "a finished pile has a gap or two suits";
-        }
-        if (!table.cardy[At(card)].Font().underline) {
-            return "a card of a finished pile is not underlined";
-        }
-    }
-    return {};
-}
-
 std::string GameWorld::Fault() const
 {
-    std::multiset<std::string> seen;
+    std::string fault;
+    const auto expect = [&fault](bool holds, const char* what) { fault = holds ? fault : what; };
+    std::multiset<int> seen;
     for (int stack = 0; stack < StackCount; ++stack) {
-        for (const std::string& entry : table.Stacks[At(stack)]) {
-            seen.insert(entry);
-            if (entry == Marker ? stack != StockStack
-                                : table.CardStack[At(CardOfEntry(entry))] != stack) {
-                return "entry " + entry + " stands in the wrong stack";
+        const std::vector<int> cards = Cards(stack);
+        const bool inPlay = stack < 8 || stack == 10 || stack >= 15;
+        expect(inPlay || cards.empty(), "a spare stack holds something");
+        seen.insert(cards.begin(), cards.end());
+        for (std::size_t i = 0; i < cards.size(); ++i) {
+            const int card = cards[i];
+            if (card < 0) {
+                expect(stack == 10, "the marker stands outside the stock");
+                continue;
+            }
+            expect(table.CardStack[card] == stack, "a card stands in the wrong stack");
+            expect(table.IsFaceUp(card) || (stack < 8 && i + 1 < cards.size()), "a card is face-down");
+            if (stack < 8 && i > 0 && table.IsFaceUp(cards[i - 1])) {
+                expect(table.IsFaceUp(card) && card + 1 == cards[i - 1] && card % 10 < 9,
+                       "a face-up card of a column is followed by one that does not fit");
+            } else if (stack >= 15) {
+                expect(card == cards[0] + static_cast<int>(i) && cards[0] % 10 == 0,
+                       "a finished pile has a gap or two suits");
+                expect(table.cardy[card].Font().underline,
+                       "a card of a finished pile is not underlined");
             }
         }
-        const bool inPlay = IsColumn(stack) || IsPile(stack) || stack == StockStack;
-        if (!inPlay && !table.Stacks[At(stack)].IsEmpty()) {
-            return "a spare stack holds something";
-        }
     }
-    if (seen.size() != CardCount + 1 ||
-        std::set<std::string>(seen.begin(), seen.end()).size() != seen.size()) {
-        return "a card or the marker is missing or there twice";
-    }
-    for (int column = 0; column < Columns; ++column) {
-        if (const std::string fault = FaultOfColumn(column); !fault.empty()) {
-            return fault;
-        }
-    }
-    for (int pile = FirstPile; pile < FirstPile + Piles; ++pile) {
-        if (const std::string fault = FaultOfPile(pile); !fault.empty()) {
-            return fault;
-        }
-    }
-    for (const int card : Cards(StockStack)) {
-        if (card >= 0 && !table.IsFaceUp(card)) {
-            return "a card of the stock is face-down";
-        }
-    }
+    expect(seen.size() == CardCount + 1 && std::set<int>(seen.begin(), seen.end()).size() == seen.size(),
+           "a card or the marker is missing or there twice");
     // The front-most item at the stock's place is the last entry of the ring.
     const int last = Cards(StockStack).back();
-    const Control* showing = table.Picture2.FrontMostAt(table.StackLeft[At(StockStack)] + 60.0,
-                                                        table.StackTop[At(StockStack)] + 60.0);
-    if (!form.hand.Dragging() && showing != &table.cardy[At(last < 0 ? StockItem : last)]) {
-        return "what shows at the stock is not the last entry of the ring";
-    }
-    return {};
+    const Control* showing = table.Picture2.FrontMostAt(table.StackLeft[StockStack] + Grip,
+                                                        table.StackTop[StockStack] + Grip);
+    expect(form.hand.Dragging() || showing == &table.cardy[last < 0 ? StockItem : last],
+           "what shows at the stock is not the last entry of the ring");
+    return fault;
 }
 
 } // namespace tessarine::test

@@ -26,27 +26,19 @@ template <class Choice> void PlayOneGesture(GameWorld& world, Choice&& choice)
     switch (choice(8)) {
     case 0:
     case 1:
-        world.RightClick(anyShownCard());
-        break;
+        return world.RightClick(anyShownCard());
     case 2:
-        world.RightClick(choice(ItemCount));
-        break;
+        return world.RightClick(choice(ItemCount));
     case 3:
     case 4:
-        world.DragOnto(anyShownCard(), FirstPileBase + choice(Piles + Columns + 2));
-        break;
+        return world.DragOnto(anyShownCard(), FirstPileBase + choice(Piles + Columns + 2));
     case 5:
-        world.DragOnto(anyShownCard(), choice(CardCount));
-        break;
+        return world.DragOnto(anyShownCard(), choice(CardCount));
     case 6:
-        world.Press(world.form.NextCard[static_cast<std::size_t>(choice(2))]);
-        break;
+        return world.Press(world.form.NextCard[static_cast<std::size_t>(choice(2))]);
     default:
-        if (choice(4) == 0) {
-            world.Press(world.form.cmdundo);
-        } else {
-            world.DragToPoint(anyShownCard(), choice(4500), choice(6000));
-        }
+        return choice(4) == 0 ? world.Press(world.form.cmdundo)
+                              : world.DragToPoint(anyShownCard(), choice(4500), choice(6000));
     }
 }
 

@@ -13,7 +13,7 @@ namespace
 TEST(LayoutTest, TheFanOfAColumnAtTwoSizes)
 {
     GameWorld world;
-    const std::vector<int> column = {40, 31, 22, Card('S', 7), Card('S', 6)};
+    const std::vector<int> column = {40, 31, 22, S7, S6};
     world.Arrange({.columns = {column}, .stock = {1}, .faceDownInEachColumn = 3});
     const auto tops = [&] {
         std::vector<Twips> found;
@@ -34,29 +34,19 @@ TEST(LayoutTest, TheFanOfAColumnAtTwoSizes)
     EXPECT_FALSE(world.table.cardy[52].Visible());
 }
 
-TEST(LayoutTest, EachNumberIsRoundedByItself)
+TEST(LayoutTest, EachNumberIsRoundedByItselfAndHeldInBounds)
 {
-    GameWorld world;
-    world.form.scaling.ScaleTable(0.5F);
-    EXPECT_EQ(world.form.shared.CardWidth, 202);
-    EXPECT_EQ(world.form.shared.FanStep, 188);
-    world.form.scaling.ScaleTable(2.0F);
-    EXPECT_EQ(world.form.shared.CardWidth, 404);
-    EXPECT_EQ(world.form.shared.FanStep, 376);
-}
-
-TEST(LayoutTest, FactorsThatCanNotServe)
-{
-    for (const float factor : {0.0F, -3.0F, std::nanf(""), std::numeric_limits<float>::infinity()}) {
-        GameWorld world;
+    constexpr float endless = std::numeric_limits<float>::infinity();
+    const std::vector<std::array<float, 3>> cases = {{0.5F, 202, 188},      {2, 404, 376},
+                                                     {0, 404, 376},         {-3, 404, 376},
+                                                     {endless, 404, 376},   {std::nanf(""), 404, 376},
+                                                     {1e30F, 15000, 13960}, {1e-30F, 120, 112}};
+    GameWorld world; // one after the other
+    for (const auto& [factor, width, fan] : cases) {
         world.form.scaling.ScaleTable(factor);
-        EXPECT_EQ(world.form.shared.CardWidth, 405) << factor;
+        EXPECT_EQ(world.form.shared.CardWidth, width) << factor;
+        EXPECT_EQ(world.form.shared.FanStep, fan) << factor;
     }
-    GameWorld world;
-    world.form.scaling.ScaleTable(1e30F);
-    EXPECT_EQ(world.form.shared.CardWidth, 15000);
-    world.form.scaling.ScaleTable(1e-30F);
-    EXPECT_EQ(world.form.shared.CardWidth, 120);
     EXPECT_EQ(world.Fault(), "");
 }
 
@@ -126,19 +116,16 @@ TEST(ResizingTest, AWindowThatRefusesKeepsItsWidth)
 
 TEST(TableDescriptionTest, WhatAListenerIsTold)
 {
-    GameWorld world;
-    world.Arrange({.columns = {{}, {30, Card('H', 7)}},
-                   .stock = {Card('C', 2), Card('S', 3)},
-                   .piles = {{Card('D', 0), Card('D', 1)}},
-                   .faceDownInEachColumn = 1});
+    GameWorld world(
+        {.columns = {{}, {30, H7}}, .stock = {C2, S3}, .piles = {{D0, D1}}, .faceDownInEachColumn = 1});
     const auto told = [&](int item) { return world.table.cardy[At(item)].AccessibleName(); };
-    EXPECT_EQ(told(Card('H', 7)), "7 of H, column 2");
+    EXPECT_EQ(told(H7), "7 of H, column 2");
     EXPECT_EQ(told(30), "face-down card, column 2");
     EXPECT_EQ(told(FirstColumnBase), "empty column 1");
-    EXPECT_EQ(told(Card('S', 3)), "3 of S, stock");
-    EXPECT_EQ(told(Card('C', 2)), "");
-    EXPECT_EQ(told(Card('D', 1)), "1 of D, finished pile 1");
-    EXPECT_EQ(told(Card('D', 0)), "");
+    EXPECT_EQ(told(S3), "3 of S, stock");
+    EXPECT_EQ(told(C2), "");
+    EXPECT_EQ(told(D1), "1 of D, finished pile 1");
+    EXPECT_EQ(told(D0), "");
 }
 
 } // namespace
