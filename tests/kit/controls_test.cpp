@@ -39,16 +39,15 @@ struct OnAForm : testing::Test {
     Colour At(Twips x, Twips y) const
     {
         Colour shown = button.Drawing().Background();
+        const auto covers = [](Twips from, Twips to, Twips at) {
+            return std::floor(from / 15) <= std::floor(at / 15) &&
+                   std::floor(at / 15) <= std::floor(to / 15);
+        };
         for (const Canvas::Stroke& stroke : button.Drawing().Strokes()) {
             const auto* line = std::get_if<Canvas::Line>(&stroke);
-            const auto covers = [](Twips from, Twips to, Twips at) {
-                const auto pixel = [](Twips twips) { return std::floor(twips / TwipsPerPixel); };
-                return pixel(from) <= pixel(at) && pixel(at) <= pixel(to);
-            };
-            if (line != nullptr && covers(line->from.x, line->to.x, x) &&
-                covers(line->from.y, line->to.y, y)) {
-                shown = line->colour;
-            }
+            const bool isHere = line != nullptr && covers(line->from.x, line->to.x, x) &&
+                                covers(line->from.y, line->to.y, y);
+            shown = isHere ? line->colour : shown;
         }
         return shown;
     }
@@ -108,7 +107,7 @@ TEST_F(BoxButton, IsPressedByAnyMouseButtonAndActsAtTheReleaseWhereverThatIs)
     EXPECT_EQ(releasedWith, (std::vector<int>{LeftButton, RightButton}));
 }
 
-TEST_F(FileChooser, AsksTheSystemAndComesBackToItsFolder)
+TEST_F(FileChooser, AsksTheSystemComesBackToItsFolderAndAddsTheExtension)
 {
     bool ran = false;
     platform.meanwhile.emplace_back([&] { ran = platform.CurrentFolder() == "/run"; });
@@ -118,10 +117,7 @@ TEST_F(FileChooser, AsksTheSystemAndComesBackToItsFolder)
     EXPECT_EQ(platform.fileDialogs.back().folder, "/games/");
     EXPECT_EQ(Choose("/games/a.gam", "Save"), "/games/a.gam");
     EXPECT_TRUE(platform.fileDialogs.back().save);
-}
-
-TEST_F(FileChooser, AddsTheExtensionOnlyToAPathWithoutAnyDot)
-{
+    // The extension comes only to a path without any dot.
     EXPECT_EQ(Choose("  /games/mine "), "/games/mine.gam");
     EXPECT_EQ(Choose("/my.games/mine"), "/my.games/mine") << "a dot of a folder counts";
     EXPECT_EQ(Choose("   "), "");

@@ -1,4 +1,6 @@
+#include "headless/headless_platform.h"
 #include "runtime/contrast.h"
+#include "runtime/files.h"
 #include "runtime/letters.h"
 #include "runtime/text_list.h"
 #include "runtime/units.h"
@@ -92,6 +94,27 @@ TEST(Contrast, TextCanBeReadOnEveryGround)
     }
     EXPECT_EQ(TextColour(Black, Rgb(28, 28, 28)), Rgb(28, 28, 28)) << "a colour that is meant";
     EXPECT_EQ(TextColour(ButtonFace, WindowText), Black);
+}
+
+TEST(Files, GoWhereALinkLeadsAndSpareWhatIsProtected)
+{
+    HeadlessPlatform platform;
+    platform.files = {{"/run/true", "old"}, {"/run/mine", "old"}};
+    platform.links = {{"/run/link", "/run/true"}};
+    platform.writeProtected = {"/run/mine"};
+    EXPECT_EQ(ReplaceFile(platform, "link", "new"), FileFault::None);
+    EXPECT_EQ(ReplaceFile(platform, "mine", "new"), FileFault::Forbidden);
+    const std::map<std::string, std::string> left = {{"/run/true", "new"}, {"/run/mine", "old"}};
+    EXPECT_EQ(platform.files, left);
+}
+
+TEST(Files, LinesEndWithOneOrTwoCharacters)
+{
+    using Lines = std::vector<std::string>;
+    EXPECT_EQ(SplitLines("a\r\nb\n\r\nc"), (Lines{"a", "b", "", "c"}));
+    EXPECT_EQ(SplitLines("\n"), Lines{""});
+    EXPECT_EQ(SplitLines(""), Lines{});
+    EXPECT_EQ(SplitLines(" \ra\r\r\nb\r"), (Lines{" \ra\r", "b"}));
 }
 
 } // namespace

@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 namespace tessarine::test
 {
 namespace
@@ -50,12 +52,7 @@ TEST(ConfigurationTest, RoundTripKeepsEveryValue)
 TEST(ConfigurationTest, ReadsValuesNotLinesAndGivesUpWhatEndsEarly)
 {
     const std::string rest = "9\r\n8\r\n7\r\n6\r\n5\r\n";
-    struct Case {
-        std::string text;
-        bool reads;
-        float scale;
-        std::string font;
-    };
+    using Case = std::tuple<std::string, bool, float, std::string>;
     const std::vector<Case> cases = {
         {"\r\n1\r\n2,3\r\n1.5\r\n" + rest + "a.col\r\nx y\r\n", true, 1.5F, "x y"},
         {"any, thing\n 1 2 3\n nonsense\n" + rest + "a.col\narial", true, 0, "arial"},
@@ -63,16 +60,14 @@ TEST(ConfigurationTest, ReadsValuesNotLinesAndGivesUpWhatEndsEarly)
         {"\r\n1 2 3 4\r\n" + rest + "a.col\r\n", false, 1, "arial"},
         {"", false, 1, "arial"},
         {"only a stamp\r\n", false, 1, "arial"}};
-    for (const Case& one : cases) {
+    for (const auto& [text, reads, scale, font] : cases) {
         GameWorld world;
-        world.platform.files["/app/tessarine.cfg"] = one.text;
-        if (!one.reads) {
-            world.platform.AnswerModal("Ok");
-        }
+        world.platform.files["/app/tessarine.cfg"] = text;
+        world.platform.AnswerModal("Ok"); // of the box that there may be
         world.form.configuration.ReadcfgFile();
-        EXPECT_EQ(world.platform.modalCaptions.size(), one.reads ? 0U : 1U) << one.text;
-        EXPECT_EQ(world.form.shared.CardScale, one.scale) << one.text;
-        EXPECT_EQ(world.form.shared.CardFont, one.font) << one.text;
+        EXPECT_EQ(world.platform.modalCaptions.size(), reads ? 0U : 1U) << text;
+        EXPECT_EQ(world.form.shared.CardScale, scale) << text;
+        EXPECT_EQ(world.form.shared.CardFont, font) << text;
     }
 }
 
@@ -89,13 +84,10 @@ TEST(ScrambleTest, ComesBackWhateverTheLength)
     EXPECT_EQ(UnscrambleLine(" 0 0 "), "MIR");
 }
 
-std::vector<std::string> Captions(const std::array<Label, ScoresBox::Rows>& labels)
+std::string Captions(const std::array<Label, ScoresBox::Rows>& labels)
 {
-    std::vector<std::string> captions;
-    for (std::size_t row = 1; row < labels.size(); ++row) {
-        captions.push_back(labels[row].Caption());
-    }
-    return captions;
+    return labels[1].Caption() + ' ' + labels[2].Caption() + ' ' + labels[3].Caption() + ' ' +
+           labels[4].Caption();
 }
 
 TEST(ScoresTest, CountsReachTheFileAtOnce)
@@ -107,7 +99,7 @@ TEST(ScoresTest, CountsReachTheFileAtOnce)
     EXPECT_EQ(line().substr(0, 22), "14Mar2008 0 0 0 0 0 0 ");
     world.form.Score1.SetLostSession(true);
     world.form.Score1.SetWonSession(false);
-    EXPECT_EQ(Captions(world.form.Score1.ThisSession), (std::vector<std::string>{"2", "1", "0", "1"}));
+    EXPECT_EQ(Captions(world.form.Score1.ThisSession), "2 1 0 1");
     EXPECT_EQ(line().substr(0, 18), "14Mar2008 2 1 0 1 ");
 
     world.platform.now.day = 5;
@@ -116,50 +108,43 @@ TEST(ScoresTest, CountsReachTheFileAtOnce)
     platform.now.day = 5;
     ScoresBox again(platform, "tessarine");
     again.Start();
-    EXPECT_EQ(Captions(again.AllSessions), (std::vector<std::string>{"2", "1", "0", "1"}));
-    EXPECT_EQ(Captions(again.ThisSession), (std::vector<std::string>{"0", "0", "0", "0"}));
+    EXPECT_EQ(Captions(again.AllSessions), "2 1 0 1");
+    EXPECT_EQ(Captions(again.ThisSession), "0 0 0 0");
     again.SetDrawnSession(true);
     EXPECT_EQ(again.Label1.Caption(), "Last Update: 14Mar2008");
 
     // Clear: No changes nothing, Yes empties both columns.
     again.Command2.MouseReleased({RightButton, 0, 0, 0});
-    EXPECT_EQ(Captions(again.AllSessions), (std::vector<std::string>{"3", "1", "1", "1"}));
+    EXPECT_EQ(Captions(again.AllSessions), "3 1 1 1");
     platform.plainAnswers.push_back(true);
     again.Command2.MouseReleased({LeftButton, 0, 0, 0});
-    EXPECT_EQ(Captions(again.AllSessions), (std::vector<std::string>{"0", "0", "0", "0"}));
+    EXPECT_EQ(Captions(again.AllSessions), "0 0 0 0");
     EXPECT_EQ(again.Label1.Caption(), "Last Update: 05Mar2008");
-    EXPECT_EQ(platform.plainMessages,
-              (std::vector<std::string>{"Clear ALL scores", "Clear ALL scores"}));
+    EXPECT_EQ(platform.plainMessages, std::vector<std::string>(2, "Clear ALL scores"));
 }
 
 TEST(ScoresTest, FilesOfNonsense)
 {
-    struct Case {
-        std::string file;
-        std::vector<std::string> shown;
-        std::vector<std::string> next; ///< after a game won in a month whose name begins with a blank
-    };
-    const std::vector<Case> cases = {
-        {"hello\r\n", {"0", "0", "0", "0"}, {"1", "1", "0", "0"}},
-        {ScrambleLine("14Mar2008 1 2"), {"0", "0", "0", "0"}, {"1", "1", "0", "0"}},
-        {ScrambleLine("14Mar2008 x 2 3 4 more") + "\r\nsecond line",
-         {"x", "2", "3", "4"},
-         {"1", "3", "3", "4"}},
-        {ScrambleLine("d 2147483647 99999999999 -1 4"),
-         {"2147483647", "99999999999", "-1", "4"},
-         {"2147483648", "100000000000", "-1", "4"}}};
-    for (const Case& one : cases) {
+    // What stands in the file, what shows of it, and what after a game won in a month whose name begins
+    // with a blank.
+    const std::vector<std::array<std::string, 3>> cases = {
+        {"hello\r\n", "0 0 0 0", "1 1 0 0"},
+        {ScrambleLine("14Mar2008 1 2"), "0 0 0 0", "1 1 0 0"},
+        {ScrambleLine("14Mar2008 x 2 3 4 more") + "\r\nsecond line", "x 2 3 4", "1 3 3 4"},
+        {ScrambleLine("d 2147483647 99999999999 -1 4"), "2147483647 99999999999 -1 4",
+         "2147483648 100000000000 -1 4"}};
+    for (const auto& [file, shown, next] : cases) {
         HeadlessPlatform platform;
         platform.now.shortMonth = " de";
-        platform.files["/run/tessarine.sco"] = one.file;
+        platform.files["/run/tessarine.sco"] = file;
         ScoresBox scores(platform, "tessarine");
         scores.Start();
-        EXPECT_EQ(Captions(scores.AllSessions), one.shown);
-        EXPECT_EQ(platform.files["/run/tessarine.sco"], one.file) << "left alone until the next count";
+        EXPECT_EQ(Captions(scores.AllSessions), shown);
+        EXPECT_EQ(platform.files["/run/tessarine.sco"], file) << "left alone until the next count";
         scores.SetWonSession(true);
         ScoresBox again(platform, "tessarine");
         again.Start();
-        EXPECT_EQ(Captions(again.AllSessions), one.next);
+        EXPECT_EQ(Captions(again.AllSessions), next);
     }
 }
 

@@ -4,7 +4,10 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
+#include <limits>
 #include <set>
+#include <tuple>
 
 namespace tessarine::test
 {
@@ -30,6 +33,11 @@ TEST(DealTest, LaysTheTriangleAndTheRing)
     EXPECT_EQ(EntryOfCard(stock.back()), table.CardOrder.At(49));
     EXPECT_EQ(world.Fault(), "");
     EXPECT_EQ(world.form.undo.Count(), 0U);
+    bool drawnAtOnce = false;
+    world.platform.meanwhile.push_back([&] { drawnAtOnce = world.platform.frozen == &table.Picture2; });
+    world.form.deal.NewDeal();
+    EXPECT_TRUE(drawnAtOnce);
+    EXPECT_EQ(world.platform.frozen, nullptr);
 }
 
 TEST(DealTest, PlacesAtDesignSize)
@@ -84,17 +92,6 @@ TEST(DealTest, ShufflesDifferUnderOneClockReadingAndAreFair)
     EXPECT_LT(std::ranges::max(first), 12);
 }
 
-TEST(DealTest, ADealIsDrawnAtOnce)
-{
-    GameWorld world;
-    bool frozenDuringDeal = false;
-    world.platform.meanwhile.push_back(
-        [&] { frozenDuringDeal = world.platform.frozen == &world.table.Picture2; });
-    world.form.deal.NewDeal();
-    EXPECT_TRUE(frozenDuringDeal);
-    EXPECT_EQ(world.platform.frozen, nullptr);
-}
-
 TEST(StockRingTest, TurnsWithoutEndBothWays)
 {
     GameWorld world;
@@ -136,6 +133,124 @@ TEST(StockRingTest, UsedUpShowsUntilTheNextLayout)
     world.Press(world.form.cmdundo);
     EXPECT_EQ(world.Cards(StockStack), (std::vector<int>{-1, S4}));
     EXPECT_EQ(world.table.Picture2.FrontMostAt(100, 160), &world.table.cardy[At(S4)]);
+}
+
+TEST(LayoutTest, TheFanOfAColumnAtTwoSizes)
+{
+    GameWorld world;
+    const std::vector<int> column = {40, 31, 22, S7, S6};
+    world.Arrange({.columns = {column}, .stock = {1}, .faceDownInEachColumn = 3});
+    const auto tops = [&] {
+        std::vector<Twips> found;
+        for (const int card : column) {
+            found.push_back(world.table.cardy[At(card)].Top());
+        }
+        return found;
+    };
+    EXPECT_EQ(tops(), (std::vector<Twips>{700, 825, 950, 1075, 1450}));
+    world.form.scaling.ScaleTable(1.0F);
+    EXPECT_EQ(tops(), (std::vector<Twips>{700, 825, 950, 1075, 1450}));
+    world.form.scaling.ScaleTable(2.0F);
+    EXPECT_EQ(tops(), (std::vector<Twips>{1400, 1650, 1900, 2150, 2900}));
+    // Face-down cards and bases wear the button colour, faces their suit's.
+    EXPECT_EQ(world.table.cardy[40].BackColor(), world.form.shared.Button());
+    EXPECT_EQ(world.table.cardy[65].BackColor(), world.form.shared.Button());
+    EXPECT_EQ(world.table.cardy[7].BackColor(), world.form.shared.SuitColor[0]);
+    EXPECT_FALSE(world.table.cardy[52].Visible());
+}
+
+TEST(LayoutTest, EachNumberIsRoundedByItselfAndHeldInBounds)
+{
+    constexpr float endless = std::numeric_limits<float>::infinity();
+    const std::vector<std::array<float, 3>> cases = {{0.5F, 202, 188},      {2, 404, 376},
+                                                     {0, 404, 376},         {-3, 404, 376},
+                                                     {endless, 404, 376},   {std::nanf(""), 404, 376},
+                                                     {1e30F, 15000, 13960}, {1e-30F, 120, 112}};
+    GameWorld world; // one after the other
+    for (const auto& [factor, width, fan] : cases) {
+        world.form.scaling.ScaleTable(factor);
+        EXPECT_EQ(world.form.shared.CardWidth, width) << factor;
+        EXPECT_EQ(world.form.shared.FanStep, fan) << factor;
+    }
+    EXPECT_EQ(world.Fault(), "");
+}
+
+TEST(LayoutTest, TheFirstTableFitsTheScreenAndShowsTheWholeCommandRow)
+{
+    using Start =
+        std::tuple<std::string, Twips, Twips>; // the stored scale, the screen, the whole window
+    const std::vector<Start> starts = {{"1", 12000, 4080},
+                                       {"2.5", 12000, 9780},
+                                       {"3", 11000, 11000},
+                                       {"1e9", 12000, 12000},
+                                       // The end of the row at 3630, the margin and the frame.
+                                       {"0", 12000, 4080},
+                                       {"1", 3990, 3990},
+                                       {".2", 12000, 3780}};
+    for (const auto& [stored, screen, width] : starts) {
+        GameWorld world({screen, 9000}, stored);
+        EXPECT_NEAR(world.form.OuterWidth(), width, TwipsPerPixel) << stored;
+        EXPECT_LE(world.form.OuterWidth(), screen);
+        EXPECT_GE(world.form.Width(), world.form.cmdundo.Left() + 360);
+        EXPECT_EQ(world.form.shared.CardScale, std::stof(stored)) << "kept until Exit";
+        EXPECT_EQ(world.Fault(), "");
+        world.form.scaling.ScaleTable(0.5F); // later sizes are the user's
+        EXPECT_LT(world.form.Width(), width * 0.6);
+    }
+}
+
+TEST(ResizingTest, TheWindowSnapsToTheTable)
+{
+    GameWorld world;
+    const auto resizeTo = [&](Twips outerWidth, Twips outerHeight) {
+        world.form.FeedResize({outerWidth - FrameWidth, outerHeight - FrameHeight});
+    };
+    resizeTo(5100, 8115);
+    EXPECT_EQ(world.form.shared.CardWidth, 405) << "only after the wait";
+    resizeTo(6000, 8115); // dropped: the first of the period counts
+    world.platform.Advance(100);
+    EXPECT_EQ(world.form.shared.CardWidth, 506);
+    EXPECT_EQ(world.form.shared.CardHeight, 469);
+    EXPECT_EQ(world.table.SlotLeft[59], 4250);
+    EXPECT_EQ(world.table.Picture2.Width(), 4856);
+    EXPECT_EQ(world.form.OuterWidth(), 5025) << "5031 brought to whole pixels";
+    EXPECT_FALSE(world.platform.HasWork()) << "the snap starts no further rescale";
+
+    resizeTo(5025, 5000);
+    world.platform.Advance(100);
+    EXPECT_EQ(world.form.shared.CardWidth, 506);
+    EXPECT_EQ(world.table.Picture2.Height(), 4000);
+    EXPECT_FALSE(world.platform.HasWork());
+}
+
+TEST(ResizingTest, AWindowThatRefusesKeepsItsWidth)
+{
+    GameWorld world;
+    world.platform.refusesSize.insert(&world.form);
+    world.form.FeedResize({12000 - FrameWidth, 8000});
+    world.platform.Advance(100);
+    EXPECT_EQ(world.form.OuterWidth(), 12000);
+    EXPECT_EQ(world.form.shared.LastFormWidth, 12000);
+    EXPECT_NEAR(world.form.shared.CardWidth, 405 * 12000.0 / 4080, 1);
+    EXPECT_FALSE(world.platform.HasWork());
+    // A window too low for any table.
+    world.form.FeedResize({12000 - FrameWidth, 100});
+    world.platform.Advance(100);
+    EXPECT_GE(world.table.Picture2.Height(), 0);
+}
+
+TEST(TableDescriptionTest, WhatAListenerIsTold)
+{
+    GameWorld world(
+        {.columns = {{}, {30, H7}}, .stock = {C2, S3}, .piles = {{D0, D1}}, .faceDownInEachColumn = 1});
+    const auto told = [&](int item) { return world.table.cardy[At(item)].AccessibleName(); };
+    EXPECT_EQ(told(H7), "7 of H, column 2");
+    EXPECT_EQ(told(30), "face-down card, column 2");
+    EXPECT_EQ(told(FirstColumnBase), "empty column 1");
+    EXPECT_EQ(told(S3), "3 of S, stock");
+    EXPECT_EQ(told(C2), "");
+    EXPECT_EQ(told(D1), "1 of D, finished pile 1");
+    EXPECT_EQ(told(D0), "");
 }
 
 } // namespace

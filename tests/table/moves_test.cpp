@@ -113,12 +113,9 @@ TEST(MovesTest, RightClickPrefersPilesThenFittingColumnsThenEmptyOnes)
     world.RightClick(FirstColumnBase + 5);
     world.RightClick(StockItem);
     EXPECT_EQ(world.TakeSounds(), (Sounds{"_error.wav", "_error.wav"}));
-}
 
-TEST(MovesTest, RightClickOnAZeroTakesTheFirstEmptyPile)
-{
-    GameWorld world({.columns = {{O1, O0}, {D0}, {C5}}});
-    world.RightClick(O0);
+    world.Arrange({.columns = {{O1, O0}, {D0}, {C5}}});
+    world.RightClick(O0); // to the first empty pile, and the next
     world.RightClick(D0);
     EXPECT_EQ(world.Cards(FirstPile), (std::vector<int>{O0, O1}));
     EXPECT_EQ(world.Cards(FirstPile + 1), std::vector<int>{D0});
