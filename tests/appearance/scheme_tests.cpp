@@ -7,10 +7,6 @@
 
 #include <gtest/gtest.h>
 
-#include <string>
-#include <utility>
-#include <vector>
-
 namespace tessarine
 {
 namespace
@@ -20,8 +16,8 @@ namespace
 std::string GreyEntry(const std::string& nameLine, int darkest = 40)
 {
     std::string text = nameLine + "\r\n";
-    for (std::size_t slot = 0; slot < StoredSlots; ++slot) {
-        const std::string grey = NumberText(darkest + 10 * static_cast<int>(slot));
+    for (int slot = 0; slot < 13; ++slot) {
+        const std::string grey = NumberText(darkest + 10 * slot);
         text += grey + ';' + grey + ';' + grey + "\r\n";
     }
     return text;
@@ -92,23 +88,18 @@ TEST_F(Schemes, AreShiftedFromTheBackgroundAndHeldWithinShades)
     EXPECT_EQ(module.Background(), Rgb(0, 255, 100)) << "the background itself isn't held";
 }
 
-std::string EntryWith(const std::string& background, const std::string& button)
-{
-    std::string text = GreyEntry("edge.col");
-    text.replace(text.find(" 80; 80; 80"), 11, button);
-    return text.replace(text.find(" 60; 60; 60"), 11, background);
-}
-
 TEST_F(Schemes, AreReadWithTheirEdgesDerivedAndPreviewedAsTheFileStands)
 {
     const auto edges = [this] { return std::pair(module.SchemeColors[3], module.SchemeColors[5]); };
-    AllCol() = EntryWith(" 224; 225; 223", "32;33;31; 7");
-    store.ReadScheme("edge.col");
-    EXPECT_EQ(edges(), std::pair(Rgb(255, 254, 255), Rgb(8, 1, 8)));
+    const auto read = [&](const std::string& background, const std::string& button) {
+        AllCol() =
+            "edge.col\n1\n2\n" + background + "\n70;70;70\n" + button + "\n90;90;90\n" + GreyEntry("");
+        store.ReadScheme("edge.col");
+        return edges();
+    };
+    EXPECT_EQ(read(" 224; 225; 223", "32;33;31; 7"), std::pair(Rgb(255, 254, 255), Rgb(8, 1, 8)));
     // Components too large count whole for the edges, negative and missing ones as 0.
-    AllCol() = EntryWith("300;-4", "400");
-    store.ReadScheme("edge.col");
-    EXPECT_EQ(edges(), std::pair(Rgb(254, 32, 32), Rgb(255, 8, 8)));
+    EXPECT_EQ(read("300;-4", "400"), std::pair(Rgb(254, 32, 32), Rgb(255, 8, 8)));
     EXPECT_EQ(store.PreviewScheme("edge.col"), Rgb(255, 0, 0));
     EXPECT_EQ(edges(), std::pair(Grey(70), Grey(90)));
     platform.files.clear();
@@ -140,10 +131,10 @@ TEST_F(Schemes, AreAddedUnlessTheNameBeginsATakenOne)
     const std::string before = AllCol();
     platform.typedAnswers = {"", "GREY", "sl", "Greyer", "one", "two"};
     PickScheme("slate");
-    EXPECT_EQ(Press(dialog.addsch), "");
-    EXPECT_EQ(Press(dialog.addsch), "Color Scheme: GREY already exists");
-    EXPECT_EQ(Press(dialog.addsch), "Color Scheme: sl already exists");
-    EXPECT_EQ(Press(dialog.addsch), "Color Scheme: Greyer added");
+    for (const char* const told : {"", "Color Scheme: GREY already exists",
+                                   "Color Scheme: sl already exists", "Color Scheme: Greyer added"}) {
+        EXPECT_EQ(Press(dialog.addsch), told);
+    }
     EXPECT_EQ(AllCol(), before + EntryText("greyer.col", module));
     EXPECT_EQ(dialog.List1.Items().Find("greyer"), 2U);
     platform.files.clear(); // the file is made if need be
@@ -187,12 +178,10 @@ TEST_F(Schemes, AreListedByTheirNamesAndAShortEntryIsRefused)
 
 TEST(FailingDisk, LeavesTheOldFileOrTheNewOne)
 {
-    const std::string update = "Error in updating Color Scheme:\r\nslate.col";
-    const std::vector<std::pair<BoxControl Form6::*, std::string>> commands = {
-        {&Form6::addsch, "Error in adding Color Scheme:\r\nnew.col"},
-        {&Form6::repsch, update},
-        {&Form6::delsch, update}};
-    for (const auto& [button, failure] : commands) {
+    for (BoxControl Form6::*const button : {&Form6::addsch, &Form6::repsch, &Form6::delsch}) {
+        const std::string failure = button == &Form6::addsch
+                                        ? "Error in adding Color Scheme:\r\nnew.col"
+                                        : "Error in updating Color Scheme:\r\nslate.col";
         std::string done;
         for (const bool fromThere : {false, true}) {
             bool reached = true;
@@ -289,10 +278,10 @@ TEST_F(OptionsDialog, CardColoursAndSoundAreTakenOverAtOnce)
     Press(dialog.command4);
     dialog.Show();
     EXPECT_EQ(module.SuitColor[4], Grey(220)) << "a selected option takes the panel's colour";
-    dialog.Check1.UserToggles();
-    EXPECT_EQ(module.SoundOn, No);
-    dialog.Check1.UserToggles();
-    EXPECT_EQ(module.SoundOn, Yes);
+    for (const auto expected : {No, Yes}) {
+        dialog.Check1.UserToggles();
+        EXPECT_EQ(module.SoundOn, expected);
+    }
     EXPECT_EQ(platform.sounds, std::vector<std::string>{"/program/_soundonoff.wav"});
 }
 

@@ -3,9 +3,6 @@
 #include "stage.h"
 #include "support/seen_contrast.h"
 
-#include <QImage>
-
-#include <array>
 #include <deque>
 #include <map>
 #include <set>
@@ -96,6 +93,16 @@ TEST_F(PaintingTest, EdgesAreSharpAndBordersEvenAtEveryScale)
     }
 }
 
+TEST_F(PaintingTest, TheBaseOfAColumnIsSunk)
+{
+    AddLabel(300, 300, Face).SetSunken(true);
+    Show({&surface});
+    const QImage shown = Shown(surface, 1).copy(20, 20, 27, 25);
+    const auto lightness = [&](int x, int y) { return qGray(shown.pixel(x, y)); };
+    EXPECT_LT(std::max(lightness(13, 0), lightness(0, 12)), lightness(13, 12));
+    EXPECT_GT(std::min(lightness(13, 24), lightness(26, 12)), lightness(13, 12));
+}
+
 TEST_F(PaintingTest, WhatIsInFrontHidesWhatIsBehind)
 {
     Label& back = AddLabel(300, 300, PaletteColour(1));
@@ -146,16 +153,15 @@ TEST_F(PaintingTest, AClickTakesTheColourThatItsPixelShows)
     const QImage shown = window.grab().toImage();
     const double ratio = shown.devicePixelRatio();
     const auto pixels = [ratio](Twips twips) { return NearestPixel(twips / TwipsPerPixel * ratio); };
-    const auto send = [&](QEvent::Type type, QPointF at) {
-        QMouseEvent event(type, at, at, Qt::LeftButton, Qt::LeftButton, {});
-        QCoreApplication::sendEvent(window.windowHandle(), &event);
-    };
     QPoint wrong;
     std::set<QRgb> inBar;
     for (int y = pixels(300); y < pixels(277 + 1370); ++y) {
         for (int x = pixels(170); x < pixels(155 + 1030); ++x) {
-            send(QEvent::MouseButtonPress, QPointF(x, y) / ratio);
-            send(QEvent::MouseButtonRelease, QPointF(x, y) / ratio);
+            const QPointF at = QPointF(x, y) / ratio;
+            for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+                QMouseEvent event(type, at, at, Qt::LeftButton, Qt::LeftButton, {});
+                QCoreApplication::sendEvent(window.windowHandle(), &event);
+            }
             if (Pixel(picker.SchemeColor()) != shown.pixel(x, y)) {
                 wrong = {x, y};
             }
@@ -172,18 +178,17 @@ TEST_F(PaintingTest, AClickTakesTheColourThatItsPixelShows)
 /// The contrast of the colour that stands out most to the one that there is most of, near the middle.
 double ContrastOfText(const QImage& image)
 {
-    const auto seen = [](QRgb pixel) { return SeenColour{qRed(pixel), qGreen(pixel), qBlue(pixel)}; };
     std::map<QRgb, int> counts;
     for (int y = 5; y < image.height() - 5; ++y) {
         for (int x = 24; x < image.width() - 5; ++x) { // beside a mark that can be set
             ++counts[image.pixel(x, y)];
         }
     }
-    const auto ground =
-        std::ranges::max_element(counts, {}, [](const auto& each) { return each.second; });
+    const QRgb ground = std::ranges::max_element(counts, {}, &std::pair<const QRgb, int>::second)->first;
     double best = 1;
     for (const auto& [pixel, count] : counts) {
-        best = std::max(best, SeenContrast(seen(pixel), seen(ground->first)));
+        best = std::max(best, SeenContrast({qRed(pixel), qGreen(pixel), qBlue(pixel)},
+                                           {qRed(ground), qGreen(ground), qBlue(ground)}));
     }
     return best;
 }
@@ -195,15 +200,14 @@ TEST_F(PaintingTest, TextOfNoFixedColourCanBeReadOnEveryGround)
     OptionButton option;
     CheckBox check;
     Label label;
-    const auto furnish = [](auto& control) { control.SetCaption("HHHHHH"); };
+    std::vector<Control*> controls;
+    const auto furnish = [&](auto& control) {
+        control.SetCaption("HHHHHH");
+        control.SetBounds(150, 600 * static_cast<Twips>(controls.size()), 1800, 600);
+        control.SetFont({.name = "Arial", .size = 16, .bold = true});
+        controls.push_back(&control);
+    };
     furnish(box), furnish(button), furnish(option), furnish(check), furnish(label);
-    Twips top = 0;
-    const std::array<Control*, 5> controls = {&box, &button, &option, &check, &label};
-    for (Control* control : controls) {
-        control->SetBounds(150, top, 1800, 600);
-        control->SetFont({.name = "Arial", .size = 16, .bold = true});
-        top += 600;
-    }
     Show({&box, &button, &option, &check, &surface});
     surface.Add(label);
     surface.BringToFront();

@@ -66,19 +66,13 @@ TEST_F(WindowTest, AFormMayTakeNoKeysAndTheCloseBoxAsksIt)
 
 TEST_F(WindowTest, ALostReleaseDoesNotHoldTheMouseForEver)
 {
-    Label card;
-    Label other;
     std::string heard;
-    card.SetBounds(300, 300, 405, 375);
-    other.SetBounds(1500, 300, 405, 375);
-    card.MouseUp = [&](const MouseEvent&) { heard += "up "; };
-    other.MouseDown = [&](const MouseEvent&) { heard += "other"; };
-    surface.Add(card);
-    surface.Add(other);
-    Show({&surface});
-    form.FeedMouseDown({LeftButton, 0, 400, 800}); // and its release never comes
-    ASSERT_EQ(form.Captured(), &card);
-    hand.Click(other);
+    first.MouseUp = [&](const MouseEvent&) { heard += "up "; };
+    second.MouseDown = [&](const MouseEvent&) { heard += "other"; };
+    Show({});
+    form.FeedMouseDown({LeftButton, 0, 100, 100}); // and its release never comes
+    ASSERT_EQ(form.Captured(), &first);
+    hand.Click(second);
     EXPECT_EQ(heard, "up other");
 }
 
@@ -92,19 +86,20 @@ TEST_F(WindowTest, StandsWithItsFrameInTheMiddleOfItsOwnerOrOfTheScreenWithThePo
     EXPECT_EQ(middle(frameOf(form)), middle({800, 0, 900, 700}));
     QCursor::setPos(100, 300);
     platform.WindowOf(form)->move(1100, 90);
-    WhenModal([&] {
+    const auto runBox = [&](const std::function<void()>& check) {
+        WhenModal([&] {
+            check();
+            box.Hide();
+        });
+        box.ShowModal(&form);
+    };
+    runBox([&] {
         EXPECT_GT(frameOf(box).width(), 200) << "without a frame this tries nothing";
         EXPECT_EQ(middle(frameOf(box)), middle(frameOf(form)));
-        box.Hide();
     });
-    box.ShowModal(&form);
     platform.WindowOf(form)->move(810, -20);
-    WhenModal([&] {
-        EXPECT_TRUE(QRect(800, 0, 900, 700).contains(frameOf(box)));
-        box.Hide();
-    });
     form.SetClientArea({1500, 600});
-    box.ShowModal(&form);
+    runBox([&] { EXPECT_TRUE(QRect(800, 0, 900, 700).contains(frameOf(box))); });
 }
 
 TEST(PlacingTest, AWindowIsWhollyOnTheScreenOfItsOwner)
@@ -123,9 +118,7 @@ TEST(PlacingTest, AWindowIsWhollyOnTheScreenOfItsOwner)
 
 TEST_F(WindowTest, AShortWaitNeedsNoTimerOfTheToolkit)
 {
-    class Counter : public QObject
-    {
-    public:
+    struct Counter : QObject {
         bool eventFilter(QObject*, QEvent* event) override
         {
             ticks += event->type() == QEvent::Timer ? 1 : 0;
@@ -161,14 +154,14 @@ TEST_F(WindowTest, OnlyAWindowThatGetsItsOldSizeBackHoldsIt)
     const QSize wanted(780, 600);
     SizeTalk sizes;
     sizes.Asked(tile, wanted);
-    sizes.Got(wanted);
-    EXPECT_FALSE(sizes.IsHeld(tile) || sizes.IsHeld(wanted)) << "accepted";
-    sizes.Got(tile);
-    EXPECT_TRUE(sizes.IsHeld(tile)) << "taken back";
-    sizes.Got(wanted);
-    EXPECT_TRUE(sizes.IsHeld(tile)) << "an echo of what was asked changes nothing";
-    sizes.Got({1000, 600});
-    EXPECT_FALSE(sizes.IsHeld(tile)) << "another size, by a person: ask again";
+    // Accepted, taken back, an echo of what was asked, and another size by a person.
+    const std::vector<std::pair<QSize, bool>> answers = {
+        {wanted, false}, {tile, true}, {wanted, true}, {{1000, 600}, false}};
+    for (const auto& [size, holdsTile] : answers) {
+        sizes.Got(size);
+        EXPECT_EQ(sizes.IsHeld(tile), holdsTile) << size.width();
+        EXPECT_FALSE(sizes.IsHeld(wanted));
+    }
 }
 
 } // namespace
