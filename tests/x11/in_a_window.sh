@@ -1,326 +1,238 @@
 #!/usr/bin/env bash
 # The program in a real X window, under a window manager, worked with a synthetic mouse.
-#   in_a_window.sh CASE FOLDER PLAN OUT
-# CASE is the name of one of the functions below; FOLDER holds the program and its data, PLAN is the
-# x11_plan program, and OUT gets what a failure leaves to look at.
+#   in_a_window.sh CASE FOLDER OUT      CASE is one of the functions below the deal; FOLDER holds the
+# program and its data; OUT, always the last argument, gets what a failure leaves to look at.
 set -u
-
 here=$(dirname "$(readlink -f "$0")")
-test_case=$1
-folder=$2
-plan=$3
-out=$4/$test_case
+test_case=$1 out=${!#}/$1
 limit=20 # seconds for anything that the program should do soon
 scale=1  # screen pixels to a logical pixel
-window=
-pid=
-
-say() { printf '%s\n' "$*"; }
+window='' pid='' box='' started=()
 
 fail() {
-    say "FAILED: $*"
+    printf '%s\n' "FAILED: $1" "${@:2}" "${box:+the last box was: $(xdotool getwindowname "$box" 2>&1)}"
     [ -z "${DISPLAY:-}" ] || import -silent -window root "$out/failed.png"
-    [ -z "$pid" ] || ! program_is_gone || say "the program is gone"
-    [ ! -f "$out/failed.png" ] || say "the screen is in $out/failed.png"
     exit 1
 }
-
-# soon WHAT COMMAND...: waits until the command holds.
-soon() {
-    local what=$1 until=$((SECONDS + limit))
-    shift
-    until "$@"; do
-        [ "$SECONDS" -lt "$until" ] || fail "not within $limit seconds: $what"
+soon() { # WHAT COMMAND...: waits until the command holds
+    local until=$((SECONDS + limit))
+    until "${@:2}"; do
+        [ "$SECONDS" -lt "$until" ] || fail "not within $limit seconds: $1"
         sleep 0.05
     done
 }
 
-# --- the stage ---
-
-started=()
-
-cleanup() {
-    local process
-    for process in "${started[@]}"; do kill "$process" 2>/dev/null; done
-    wait 2>/dev/null
-    rm -rf -- "$home"
-}
-
-needs() {
-    local tool
-    for tool in "$@"; do
-        command -v "$tool" >/dev/null || { say "skipped: there is no $tool"; exit 77; }
-    done
-}
-
-# A display of our own with a window manager on it.
-open_display() {
+open_display() { # a display of our own with a window manager on it
     local number
-    needs Xvfb openbox xdotool wmctrl xprop xwininfo xwd convert
+    type Xvfb openbox xdotool wmctrl xwininfo xwd convert import >/dev/null || exit 77 # skipped
     mkfifo "$home/number"
-    Xvfb -displayfd 5 -screen 0 1280x1400x24 -noreset -nolisten tcp 5<>"$home/number" >"$home/xvfb.log" 2>&1 &
-    started+=($!)
+    Xvfb -displayfd 5 -screen 0 1280x1400x24 -noreset -nolisten tcp 5<>"$home/number" >"$home/xvfb" 2>&1 & started+=($!)
     read -r -t "$limit" number <>"$home/number" || fail "the display did not start"
     export DISPLAY=:$number
-    openbox >"$home/openbox.log" 2>&1 &
-    started+=($!)
+    openbox >"$home/openbox" 2>&1 & started+=($!)
     soon "a window manager" wmctrl -m >/dev/null 2>&1
     sleep 0.5 # it says that it is there before it is, and may sleep over a window that comes meanwhile
 }
 
 windows_of_program() { xdotool search --onlyvisible --pid "$pid" --name . 2>/dev/null; }
-
-# The window of the program that is not the main one: a message box.
-box_is_open() {
-    box=$(windows_of_program | grep -vx "${window:-none}" | head -n 1)
-    [ -n "$box" ]
-}
-box_is_gone() { ! windows_of_program | grep -qx "$box"; }
-main_window_is_open() {
-    window=$(windows_of_program | head -n 1)
-    [ -n "$window" ]
-}
-
+main_window_is_open() { window=$(windows_of_program | head -n 1) && [ -n "$window" ]; }
+box_is_open() { box=$(windows_of_program | grep -vx "${window:-none}" | head -n 1) && [ -n "$box" ]; }
+program_is_gone() { ! kill -0 "$pid" 2>/dev/null; }
 start_program() {
-    (cd "$program" && exec ./tessarine) >"$out/program.log" 2>&1 &
-    pid=$!
-    started+=("$pid")
-}
-
-# Starts the program as on its first day: the notice that there is no configuration yet comes up.
-start_first_time() {
-    start_program
-    answer 1 1
-    soon "the first notice goes" box_is_gone
+    (cd "$program" && exec ./tessarine) >"$out/program.log" 2>&1 & pid=$! && started+=("$pid")
+    [ -f "$program/tessarine.cfg" ] || answer 1 1 # on the first day a notice says so
     soon "the main window" main_window_is_open
 }
+ends_well() { soon "the program ends" program_is_gone && { wait "$pid" || fail "it ended with code $?"; }; }
+close_window() { wmctrl -i -c "$window" && ends_well; }
 
-program_is_gone() { ! kill -0 "$pid" 2>/dev/null; }
-
-# --- the hand; positions in logical pixels of the client area ---
-
-press() { # button x y
-    xdotool mousemove --window "$window" $(($2 * scale)) $(($3 * scale)) sleep 0.02 click "$1"
+# The hand; positions in logical pixels of the client area.
+press() { # x y button times
+    xdotool mousemove --window "$window" $(($1 * scale)) $(($2 * scale)) sleep 0.02 click --repeat "$4" --delay 60 "$3"
 }
-
+command_button() { press $((14 + 24 * $1)) 14 1 1; } # counted from the left, from 0
 drag() { # from x, y to x, y
-    local middle_x=$((($1 + $3) * scale / 2)) middle_y=$((($2 + $4) * scale / 2))
-    xdotool mousemove --window "$window" $(($1 * scale)) $(($2 * scale)) sleep 0.02 mousedown 1 \
-        sleep 0.02 mousemove --window "$window" "$middle_x" "$middle_y" \
-        sleep 0.02 mousemove --window "$window" $(($3 * scale)) $(($4 * scale)) sleep 0.05 mouseup 1
+    xdotool mousemove --window "$window" $(($1 * scale)) $(($2 * scale)) sleep 0.02 mousedown 1 sleep 0.02 \
+        mousemove --window "$window" $((($1 + $3) * scale / 2)) $((($2 + $4) * scale / 2)) sleep 0.02 \
+        mousemove --window "$window" $(($3 * scale)) $(($4 * scale)) sleep 0.05 mouseup 1
 }
 
-# The client area's width and height of a window.
-size_of() {
-    xwininfo -id "$1" 2>/dev/null | awk '/^ *Width:/ { w = $2 } /^ *Height:/ { print w, $2 }'
-}
+# The client area's width and height of a window, and its colours at the places of a format.
+size_of() { xwininfo -id "$1" 2>/dev/null | awk '/^ *Width:/ { w = $2 } /^ *Height:/ { print w, $2 }'; }
+pixels_of() { xwd -silent -id "$1" | convert xwd:- -depth 8 -type TrueColor -format "$2" info:; } 2>/dev/null
 
 # Whether a message box is open and shows so many buttons. They stand in a row of 59 by 23.3 pixels
-# each, centred on the outer width, their middle 24.7 above the lower edge; the row begins with a
-# white line and ends with a black one.
+# each, centred on the outer width; the row begins with a white line and ends with a black one.
 box_shows_buttons() {
-    local count=$1 width height left format='' dx seen
+    local width height x format='' seen
     box_is_open || return
     read -r width height < <(size_of "$box")
-    row_left=$(((width + 8 * scale - count * 59 * scale) / 2))
-    row_middle=$((height - 25 * scale))
-    for ((dx = -2 * scale; dx <= 2 * scale; ++dx)); do
-        left=$((row_left + dx))
-        format+="L%[hex:p{$left,$row_middle}] R%[hex:p{$((left + count * 59 * scale - scale)),$row_middle}] "
+    row_left=$(((width + 8 * scale - $1 * 59 * scale) / 2)) row_middle=$((height - 25 * scale))
+    for ((x = row_left - 2 * scale; x <= row_left + 2 * scale; ++x)); do
+        format+="L%[hex:p{$x,$row_middle}] R%[hex:p{$((x + $1 * 59 * scale - scale)),$row_middle}] "
     done
-    seen=$(xwd -silent -id "$box" 2>/dev/null |
-        convert xwd:- -depth 8 -type TrueColor -format "$format" info: 2>/dev/null)
-    [[ $seen == *LFFFFFF* && $seen == *R000000* ]]
+    seen=$(pixels_of "$box" "$format") && [[ $seen == *LFFFFFF* && $seen == *R000000* ]]
 }
-
-# Presses the n-th of so many buttons of the message box that must come up.
-answer() { # n of
+box_has_changed() { ! box_shows_buttons "$1"; }
+answer() { # n of: presses the n-th of so many buttons of the message box that must come up
     soon "a message box with $2 buttons" box_shows_buttons "$2"
-    xdotool mousemove --window "$box" $((row_left + (2 * $1 - 1) * 59 * scale / 2)) "$row_middle" \
-        sleep 0.02 click 1
+    xdotool mousemove --window "$box" $((row_left + (2 * $1 - 1) * 59 * scale / 2)) "$row_middle" sleep 0.02 click 1
+    soon "the message box takes its answer" box_has_changed "$2"
 }
 
-# --- what shows ---
-
-# The window's size and the colours at the given places, as the plan writes them.
-look() {
-    local places=("${@:3}") format='' place
-    for place in "${places[@]}"; do
-        format+="${place%=*}=%[hex:p{$((${place%%,*} * scale + scale / 2)),"
-        place=${place#*,}
-        format+="$((${place%=*} * scale + scale / 2))}] "
-    done
-    read -r width height < <(size_of "$window")
-    seen="$((width / scale)) $((height / scale)) $(xwd -silent -id "$window" |
-        convert xwd:- -depth 8 -type TrueColor -format "$format" info:)"
+# What the table shows, a letter for a suit's colour and "." for the colour of bases and backs:
+# 0 to 7 the columns from the top, a back a "." and a base "...", s the stock, p the piles.
+declare -A table=()
+declare -A letter=([C80000]=S [00C800]=H [0000C8]=D [C8C800]=C [C800C8]=O [99AD9B]=. [BCD0BE]=_)
+rows=24 # strips of 125 twips in a column; a face is three of them high
+places() { # all strips, the stock and the piles, as a format for their colours
+    awk -v rows="$rows" -v scale="$scale" '
+        function place(x, y) { printf "%%[hex:p{%d,%d}] ", x * scale / 15, y * scale / 15 }
+        BEGIN { for (i = 0; i < 8 * rows; ++i) place(130 + int(i / rows) * 480, 1212 + i % rows * 125)
+                split("130 1722 2164 2606 3048 3490", top); for (i = 1; i <= 6; ++i) place(top[i], 612) }'
 }
-
-shows() {
-    look "$@"
-    [ "${seen% }" = "$*" ]
-}
-
-see() {
-    local until=$((SECONDS + limit)) expected
-    until shows "$@"; do
-        if [ "$SECONDS" -ge "$until" ]; then
-            for expected in "$@"; do
-                case " $seen " in *" $expected "*) ;; *) say "   expected $expected" ;; esac
-            done
-            say "   seen $seen"
-            fail "the window does not show what it should"
+see() { # STACK=CARDS... what changes on the table; then it must show all of it
+    local word key expected seen='' colour until=$((SECONDS + limit))
+    for word in "$@"; do table[${word%=*}]=${word#*=}; done
+    expected=$(for key in {0..7}; do echo "${table[$key]}"; done |
+        awk '{ gsub(/[A-Z]/, "&&&"); printf "%-'"$rows"'s", $0 }' | tr ' ' _)${table[s]}${table[p]}
+    while [ "$seen" != "$expected" ]; do
+        if [ "$SECONDS" -ge "$until" ] || program_is_gone || { [ -n "$seen" ] && box_is_open; }; then
+            fail "after '${step[*]}' the table's columns show and should show" "$(diff -y -t -W $((3 * rows)) \
+                <(fold -w "$rows" <<<"$seen") <(fold -w "$rows" <<<"$expected"))"
         fi
-        sleep 0.03
+        seen=
+        for colour in $(pixels_of "$window" "$format"); do seen+=${letter[$colour]:-?}; done
     done
-    sleep 0.03 # what is on the screen may be a step ahead of the program's readiness
+    sleep "$([ $# -gt 0 ] && echo 0.15 || echo 0.5)" # a card may still slide, and the program takes no press
 }
 
-# --- the cases ---
+# Whether played, won, drawn and lost of all runs are these. They stand behind a date of nine letters,
+# each letter in two digits after meeting one of the key.
+counts_are() {
+    local text=" $1 " key=HMIRT expected='' i code
+    for ((i = 0; i < ${#text}; ++i)); do
+        printf -v code '%d ^ %d' "'${text:i:1}" "'${key:i % 5:1}"
+        printf -v expected '%s%2X' "$expected" $((code))
+    done
+    [[ $(cut -c 19- "$program/tessarine.sco") == "$expected"* ]]
+}
+is_new_deal() { [ "$(wc -c <"$deal")" -eq 200 ] && ! cmp -s "$deal" "$out/last_deal"; } 2>/dev/null
 
-# A whole game on a deal made for it, from start to win.
+# A deal that a hand wins, and the hand's moves, each with what it changes on the table.
+cards=(14 9 35 38 12 7 44 45 32 25 4 26 17 22 36 27 28 23 29 10 31 46 16 21 43 3 47 48 2 19 8 15 1 11 49 33 20 30
+39 40 18 6 0 42 5 34 41 37 24 13)
+steps='true 0 0 0 0 0=... 1=H 2=.C 3=..S 4=...D 5=....C 6=.....C 7=......O s=H p=.....;drag 18 49 18 89 0=H s=C
+press 230 14 1 1 0=... s=H;press 82 97 3 1 2=S 5=....CC;press 18 49 3 1 1=HH s=C;press 18 49 3 1 5=....CCC s=S
+press 18 49 3 1 s=O p=S....;press 18 49 3 1 s=D p=SO...;press 18 49 3 1 s=H p=SOD..;press 52 49 1 1 s=S
+press 18 49 3 1 s=H;press 52 49 1 1 s=S;press 18 49 3 1 s=C;press 52 49 1 1 s=O;press 18 49 3 1 s=S;press 38 49 1 1 s=O
+press 18 49 3 1 s=C;press 52 49 1 1;press 18 49 3 1 s=H p=SODC.;press 210 131 3 1 6=....H
+press 210 122 3 1 6=...D p=SODCH;press 18 49 3 1;press 52 49 1 2 s=D;press 18 49 3 1 4=...DD s=S
+press 18 49 3 1 3=..SS s=C;press 18 49 3 1 5=....CCCC s=S;press 18 49 3 1 2=SS s=C;drag 114 106 82 139 2=SSSS 3=.H
+press 114 97 3 1 3=C;press 50 114 3 1 1=...;press 18 49 3 1 3=CC;drag 178 122 114 139 3=CCCCCC 5=...D
+press 52 49 1 2 s=H;press 18 49 3 1 s=S;press 18 49 3 1 2=SSSSS s=O;drag 146 114 18 89 0=DD 4=..C
+press 146 106 3 1 4=.O;press 114 214 3 1 3=...;press 38 49 1 1 s=C;press 18 49 3 1 s=.;press 146 97 3 1 1=O 4=O
+press 146 89 3 1 1=OO 4=...;press 242 139 3 1 3=O 7=.....O;press 242 131 3 1 3=OO 7=....S;press 242 122 3 1 7=...O
+press 242 114 3 1 7=..D;press 50 114 3 1 1=...;press 242 106 3 1 7=.H;press 178 114 3 1 5=..H;press 242 97 3 1 7=O
+press 178 106 3 1 5=.D;press 242 89 3 1 7=...;press 114 114 3 1 3=...;drag 18 89 178 122 0=... 5=.DDD
+press 52 49 1 1 s=H;press 18 49 3 1 s=.;press 52 49 1 1 s=O;press 18 49 3 1 s=H;press 18 49 3 1 s=.
+press 210 114 3 1 0=D 6=..D;press 210 106 3 1 6=.D;press 178 147 3 1 5=S;press 178 89 3 1 5=...;press 82 189 3 1 2=...
+press 210 97 3 1 0=DD 6=D;press 210 89 3 1 6=...;press 18 114 3 1 win'
+
 game() {
-    local step words gestures=0
+    local step deal=$program/tempgame.txt format settings
     open_display
-    "$plan" "$folder" "$out" || fail "there is no plan"
+    format=$(places)
+    printf -v settings '%s\r\n' ' 7             16777215      0 ' ' 1 ' ' 200 ' ' 51200 ' ' 13107200 ' ' 51400 ' \
+        ' 13107400 ' default.col arial
+    printf 'yesterday\r\n%s' "$settings" >"$program/tessarine.cfg"
     start_program
-    while read -r step words; do
-        # shellcheck disable=SC2086 # the words of a step are its arguments
-        case $step in
-        say)
-            say "   $words"
-            if [ "$words" = "the deal is restored" ]; then
-                soon "the main window" main_window_is_open
-                soon "the start is over" [ -s "$program/tempgame.txt" ]
-                cp "$out/tempgame.txt" "$program/tempgame.txt"
-            fi
-            ;;
-        click) press $words ;;
-        drag) drag $words ;;
-        resize) xdotool windowsize "$window" $((${words% *} * scale)) $((${words#* } * scale)) ;;
-        answer)
-            [ "$words" != "1 1" ] || [ -z "$window" ] || scores_before=$(score_counts)
-            answer $words
-            ;;
-        see) see $words ;;
-        *) fail "the plan says $step" ;;
-        esac
-        case $step in click | drag) gestures=$((gestures + 1)) ;; esac
-    done <"$out/steps"
-    say "   $gestures gestures"
-    [ "$scores_before" = "0 0 0 0" ] || fail "before the last message the scores were $scores_before"
+    soon "the first deal" is_new_deal
+    printf '%02d\r\n' "${cards[@]}" | tee "$out/last_deal" >"$deal"
+    command_button 5 && answer 1 2 && answer 1 1
+    while read -r -a step; do
+        "${step[@]:0:5}"
+        [ "${step[5]:-}" = win ] || see "${step[@]:5}"
+    done < <(tr ';' '\n' <<<"$steps")
+    soon "the message of the win" box_shows_buttons 1
+    counts_are "0 0 0 0" || fail "the win is counted before its message is answered"
+    answer 1 1
+    soon "the next deal" is_new_deal
     soon "one game is counted as won" counts_are "1 1 0 0"
-    cmp -s "$out/tempgame.txt" "$program/tempgame.txt" && fail "there is no next deal"
-    close_window
+    cp "$deal" "$out/last_deal"
+    command_button 4 && answer 2 2
+    if is_new_deal || ! counts_are "1 1 0 0"; then fail "No to a new game deals one"; fi
+    command_button 4 && answer 1 2
+    soon "a new game" is_new_deal
+    soon "one game is counted as lost" counts_are "2 1 0 1"
+    command_button 1 && answer 1 1
+    cmp "$deal" "$program/savedgame;01.gam" || fail "another deal is saved"
+    command_button 8 && answer 1 2
+    ends_well
+    cmp <(sed -E '1s/^([0-9]{2}-){2}[0-9]{4} ([0-9]{2}:){2}[0-9]{2}\r$/now\r/' "$program/tessarine.cfg") \
+        <(printf 'now\r\n%s' "$settings") || fail "the configuration is not written as it was read"
 }
-
-# Everything on a screen of twice as many pixels.
-game_at_200_percent() {
-    scale=2
-    export QT_SCALE_FACTOR=2
-    game
-}
-
-# Played, won, drawn and lost over all runs, from the scores file.
-score_counts() { "$plan" score "$program/tessarine.sco" 2>/dev/null | cut -d ' ' -f 2-5; }
-counts_are() { [ "$(score_counts)" = "$1" ]; }
-
-close_window() {
-    wmctrl -i -c "$window"
-    soon "the program ends when its window is closed" program_is_gone
-    wait "$pid"
-    local code=$?
-    [ "$code" -eq 0 ] || fail "the program ended with code $code"
-}
+game_at_200_percent() { scale=2 && export QT_SCALE_FACTOR=2 && game; } # on a screen of twice as many pixels
 
 window() {
-    local title before
-    open_display
-    start_first_time
-    title=$(xdotool getwindowname "$window")
-    [ "$title" = "Tessarine" ] || fail "the window's title is '$title'"
-    soon "the window has the table's width" size_is 264 514
+    local before
+    open_display && start_program
+    [ "$(xdotool getwindowname "$window")" = "Tessarine" ] || fail "the window has another title"
+    soon "the window has the table's width" size_is "264 514"
     soon "the window stands in the middle of the screen" is_in_the_middle_of "$window" 0 0 1280 1400
     read -r -a before < <(outer_of "$window")
-    press 1 $((2 + 8 * 24 + 12)) 14
-    soon "a question" box_shows_buttons 2
+    command_button 8 && soon "a question" box_shows_buttons 2
     soon "it stands in the middle of the window" is_in_the_middle_of "$box" "${before[@]}"
     answer 2 2
-    soon "the question goes" box_is_gone
-    # The hand takes the right edge, and the corner stays where it is.
     xdotool mousemove $((before[0] + before[2] - 1)) 700 sleep 0.1 mousedown 1 sleep 0.1 \
-        mousemove_relative 30 0 sleep 0.1 mousemove_relative 30 0 sleep 0.5 mouseup 1
-    soon "the hand makes it wider" is_wider_than 300
+        mousemove_relative 30 0 sleep 0.1 mousemove_relative 30 0 sleep 0.5 mouseup 1 # the right edge
+    soon "the hand makes it wider" size_is "3.. .*"
     [[ $(outer_of "$window") == "${before[0]} ${before[1]} "* ]] || fail "the window jumps"
     close_window
     start_program
-    soon "the main window" main_window_is_open
-    soon "the window has the table's width" size_is 264 514
-    # A quarter wider: 4,080 twips to 5,100, and the window snaps to the 5,031 of the table.
-    xdotool windowsize "$window" 332 514
-    soon "the window snaps to the table" size_is 327 514
-    # The height alone changes nothing else.
-    xdotool windowsize "$window" 327 450
-    soon "the window takes the height" size_is 327 450
-    sleep 0.5
-    size_is 327 450 || fail "the window does not stay as it was left: $(size_of "$window")"
+    soon "the window has the table's width" size_is "264 514"
+    xdotool windowsize "$window" 332 514 # from 4,080 twips to 5,100, a quarter wider; the table takes 5,031
+    soon "the window snaps to the table" size_is "327 514"
+    xdotool windowsize "$window" 327 450 sleep 1
+    size_is "327 450" || fail "the window does not take a height alone: $(size_of "$window")"
     close_window
 }
-# Left, top, width and height of a window with its frame.
-outer_of() {
-    local left right top bottom
-    read -r left right top bottom < <(xprop -id "$1" _NET_FRAME_EXTENTS | sed 's/.*= //; s/,//g')
-    xwininfo -id "$1" | awk -v l="$left" -v r="$right" -v t="$top" -v b="$bottom" '
-        /Absolute upper-left X/ { x = $4 } /Absolute upper-left Y/ { y = $4 }
-        /^ *Width/ { w = $2 } /^ *Height/ { print x - l, y - t, w + l + r, $2 + t + b }'
+size_is() { [[ $(size_of "$window") =~ ^$1$ ]]; }
+outer_of() { # left, top, width and height of a window with its frame
+    xwininfo -id "$(xwininfo -children -id "$1" | awk '/Parent window id/ { print $4 }')" |
+        awk '/Absolute/ { print $4 } /^ *(Width|Height):/ { print $2 }' | xargs
 }
-is_in_the_middle_of() { # window left top width height
+is_in_the_middle_of() { # window left top width height; to half a pixel
     local x y width height
     read -r x y width height < <(outer_of "$1")
-    x=$((2 * (x - $2) + width - $4)) y=$((2 * (y - $3) + height - $5))
-    [ ${x#-} -le 1 ] && [ ${y#-} -le 1 ] # half a pixel
+    (((2 * (x - $2) + width - $4) ** 2 <= 1 && (2 * (y - $3) + height - $5) ** 2 <= 1))
 }
-is_wider_than() { [ "$(size_of "$window" | cut -d ' ' -f 1)" -gt "$1" ]; }
-size_is() { [ "$(size_of "$window")" = "$1 $2" ]; }
 
-# Nothing happens, and so nothing is done.
-idle() {
-    local before after
-    open_display
-    start_first_time
-    sleep 1.5
-    before=$(ticks)
-    sleep 3
-    after=$(ticks)
-    say "   $((after - before)) hundredths of a second of work in 3 seconds"
-    [ $((after - before)) -le 1 ] || fail "the program works while nothing happens"
+idle() { # nothing happens, and so nothing is done
+    local work
+    open_display && start_program && sleep 1.5
+    work=$(ticks) && sleep 3 && work=$(($(ticks) - work))
+    [ "$work" -le 1 ] || fail "$work hundredths of a second of work in 3 idle seconds"
     close_window
 }
-# The processor time that the program has used.
-ticks() { awk '{ print $14 + $15 }' "/proc/$pid/stat"; }
+ticks() { awk '{ print $14 + $15 }' "/proc/$pid/stat"; } # the processor time that the program has used
 
-# Without a display, or with one that isn't there, one sentence says so.
-no_display() {
-    one_sentence env -u DISPLAY "$program/tessarine"
-    one_sentence env DISPLAY=:98765 "$program/tessarine"
-    one_sentence env -u DISPLAY "$here/../../play"
-}
-one_sentence() {
-    local said code
-    said=$(cd "$program" && timeout 10 "$@" 2>&1)
-    code=$?
-    say "   $said"
-    if [ "$code" -eq 0 ] || [ "$code" -ge 124 ]; then fail "it ended with code $code"; fi
-    [ "$(wc -l <<<"$said")" -eq 1 ] || fail "it should say one sentence"
+no_display() { # without a display, or with one that isn't there, one sentence says so
+    local command said code
+    for command in ./tessarine "DISPLAY=:98765 ./tessarine" "$here/../../play"; do
+        said=$(cd "$program" && timeout 10 bash -c "$command" 2>&1)
+        code=$?
+        if [ "$code" -eq 0 ] || [ "$code" -ge 124 ] || [ "$(wc -l <<<"$said")" -ne 1 ]; then
+            fail "$command ended with code $code and said: $said"
+        fi
+    done
 }
 
 [ "$(type -t "$test_case")" = function ] || fail "there is no case $test_case"
 unset QT_QPA_PLATFORM WAYLAND_DISPLAY QT_SCALE_FACTOR DISPLAY
-rm -rf -- "$out"
-mkdir -p "$out"
-home=$(mktemp -d)
-trap cleanup EXIT
-# As a player has it on the first day, and no other player's settings.
-program=$home/tessarine
-cp -r "$folder" "$program" && rm -f "$program"/tessarine.cfg "$program"/*.sco "$program"/tempgame.txt
+rm -rf -- "$out" && mkdir -p "$out" && home=$(mktemp -d) || exit 1
+trap 'kill "${started[@]}" 2>/dev/null; wait; rm -rf -- "$home"' EXIT
+program=$home/tessarine # as a player has it on the first day, and no other player's settings
+cp -r "$2" "$program" && rm -f "$program"/tessarine.cfg "$program"/*.sco "$program"/tempgame.txt
 export HOME=$home XDG_CONFIG_HOME=$home XDG_RUNTIME_DIR=$home
 "$test_case"
