@@ -121,6 +121,7 @@ Whole MsgForm::MsgboxA(const std::string& s, std::string_view typ, Colour BGCol,
     ReadStyle(typ);
     LayoutBox(HighestButton);
     CancelControl = HarmlessButton();
+    FirstControl = CancelControl;
     // A box whose window is torn down with the program answers nothing, not what the last one did.
     AnswerCode = 0;
     ShowModal(AllForms().Active());
