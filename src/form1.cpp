@@ -41,9 +41,12 @@ void Form1::PlaceControls()
     table.Picture2.Describe = [] { return std::string("Table"); };
     Score1.Describe = [] { return std::string("Scores"); };
     NextCard[0].SetCaption("<");
-    NextCard[0].Describe = [] { return std::string("Turn the stock back"); };
+    NextCard[0].SetToolTip("Turn the stock back");
     NextCard[1].SetCaption(">");
-    NextCard[1].Describe = [] { return std::string("Turn the stock"); };
+    NextCard[1].SetToolTip("Turn the stock");
+    for (BoxControl& button : NextCard) {
+        button.Describe = [&button] { return button.ToolTip(); };
+    }
     table.Picture2.Add(NextCard[0]);
     table.Picture2.Add(NextCard[1]);
     table.Picture2.Add(Score1);

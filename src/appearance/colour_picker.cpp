@@ -198,9 +198,13 @@ void ColPik::BarChanged(Label& channel, Colour pure)
 
 void ColPik::ShowDegrees()
 {
-    lblRedDegree.SetCaption(std::to_string(hsrRed.Value()));
-    lblGreenDegree.SetCaption(std::to_string(hsrGreen.Value()));
-    lblBlueDegree.SetCaption(std::to_string(hsrBlue.Value()));
+    const auto show = [](Label& label, ScrollBar& bar, const char* name) {
+        label.SetCaption(std::to_string(bar.Value()));
+        bar.SetToolTip(std::string(name) + ": " + label.Caption());
+    };
+    show(lblRedDegree, hsrRed, "Red");
+    show(lblGreenDegree, hsrGreen, "Green");
+    show(lblBlueDegree, hsrBlue, "Blue");
 }
 
 Colour ColPik::ColourOfBars() const

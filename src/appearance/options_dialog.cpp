@@ -27,6 +27,41 @@ void PlaceButton(Container& on, BoxControl& button, const char* caption, Twips l
     button.SetCaption(caption);
 }
 
+void TellContrast(ScrollBar& slider)
+{
+    slider.SetToolTip("Contrast: " + std::to_string(slider.Value()));
+}
+
+void SetToolTips(Form6& form)
+{
+    const std::initializer_list<std::pair<Control*, const char*>> tips = {
+        {&form.Frame5, "The colours of the table, the buttons and this dialog"},
+        {&form.ColPik1, "Background colour of a new scheme: View shows it"},
+        {&form.List1, "Pick a scheme, then press Apply"},
+        {&form.showsch, "Show the scheme of this background and contrast, in this dialog only"},
+        {&form.repsch, "Store the colours on show in place of the selected scheme"},
+        {&form.delsch, "Remove the selected scheme"},
+        {&form.addsch, "Store the colours on show as a new scheme"},
+        {&form.Frame1, "Sounds of the game"},
+        {&form.Check1, "Play sounds"},
+        {&form.command3, "Dress the table in the selected scheme and font"},
+        {&form.command4, "Close the dialog; nothing is taken back"},
+        {&form.Frame3, "The colours of the cards"},
+        {&form.ColPik2, "Colour of the cards or numbers selected below"},
+        {&form.Frame7, "Which cards take the colour"},
+        {&form.cmdreset, "Give the cards five plain colours and the font Arial, and apply that"},
+        {&form.Frame6, "The font of the numbers, with a sample"},
+        {&form.List2, "Pick a font, then press Apply"},
+    };
+    for (const auto& [control, tip] : tips) {
+        control->SetToolTip(tip);
+    }
+    for (OptionButton& option : form.NumCol) {
+        option.SetToolTip(option.AccessibleName());
+    }
+    TellContrast(form.ContrastV);
+}
+
 } // namespace
 
 Form6::Form6(Forms& forms, Module1& module, SchemeStore& store, MsgForm& messageBox, const Sound& sound,
@@ -41,6 +76,7 @@ Form6::Form6(Forms& forms, Module1& module, SchemeStore& store, MsgForm& message
     // The pickers took their first colour while they were placed, with nobody listening.
     ConnectSchemeGroup();
     ConnectOthers();
+    SetToolTips(*this);
     CancelControl = &command4;
     FirstControl = &List1;
 }
@@ -211,6 +247,7 @@ void Form6::List1_MouseUp()
 
 void Form6::ContrastV_Change()
 {
+    TellContrast(ContrastV);
     if (ContrastV.Tag != Silent) {
         showsch_MouseUp();
     }

@@ -4,6 +4,19 @@
 
 namespace tessarine
 {
+namespace
+{
+
+/// A good half of the way from one to the other.
+Colour Mixed(Colour one, Colour other)
+{
+    const Colour from = TranslateColor(one);
+    const auto part = [](int near, int far) { return near + (far - near) * 11 / 20; };
+    return Rgb(part(clrRed(from), clrRed(other)), part(clrGreen(from), clrGreen(other)),
+               part(clrBlue(from), clrBlue(other)));
+}
+
+} // namespace
 
 QColor ToQColor(Colour colour)
 {
@@ -11,15 +24,22 @@ QColor ToQColor(Colour colour)
     return {clrRed(resolved), clrGreen(resolved), clrBlue(resolved)};
 }
 
-QColor EdgeOf(Colour area)
+QColor EdgeOf(Colour area, Colour around, Edge edge)
 {
-    static constexpr double visibleEdge = 1.6;
-    if (Contrast(area, Black) >= visibleEdge) {
-        return Qt::black;
+    static constexpr double visible = 1.6;
+    static constexpr Colour between = Rgb(102, 102, 102);
+    const auto standsOut = [=](Colour line) {
+        return Contrast(line, area) >= visible && Contrast(line, around) >= visible;
+    };
+    // Beside any two colours one of these three can be seen.
+    const bool isLit = edge == Edge::Lit;
+    const Colour shade = edge == Edge::Plain ? Black : Mixed(area, isLit ? White : Black);
+    for (const Colour line : {shade, isLit ? White : Black, between}) {
+        if (standsOut(line)) {
+            return ToQColor(line);
+        }
     }
-    const auto lighter = [](int part) { return part + (255 - part) * 2 / 5; };
-    const QColor shown = ToQColor(area);
-    return {lighter(shown.red()), lighter(shown.green()), lighter(shown.blue())};
+    return ToQColor(isLit ? Black : White);
 }
 
 } // namespace tessarine

@@ -11,7 +11,10 @@ namespace tessarine
 /// The colour that a number or a reference to a system colour stands for.
 QColor ToQColor(Colour colour);
 
-/// A thin edge around an area: black, or a lighter shade of an area that is nearly black itself.
-QColor EdgeOf(Colour area);
+/// Plain is black where that can be seen; the others are a light and a dark shade of the area.
+enum class Edge { Plain, Lit, Shaded };
+
+/// The line between an area and what it lies on, in a colour that stands out from both.
+QColor EdgeOf(Colour area, Colour around, Edge edge = Edge::Plain);
 
 } // namespace tessarine

@@ -1,12 +1,15 @@
 #include "desktop/dialogs.h"
 
 #include "desktop/files.h"
+#include "desktop/start.h"
 #include "desktop/text.h"
 
 #include <QCoreApplication>
 #include <QFileDialog>
+#include <QHeaderView>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QTreeView>
 
 namespace tessarine::dialogs
 {
@@ -20,6 +23,24 @@ constexpr QSize FileDialogSize(740, 460);
 QString FilterOf(const FileDialogRequest& request)
 {
     return ToText(request.typesName) + QLatin1String(" (") + ToText(request.types) + QLatin1Char(')');
+}
+
+/// The newest first, with its whole date, and no column that is the same for every game. A dialog of
+/// the system has no list of ours.
+void ShowNewestFirst(QFileDialog& box)
+{
+    auto* const list = box.findChild<QTreeView*>(QStringLiteral("treeView"));
+    if (list == nullptr) {
+        return;
+    }
+    enum Column { Name, Bytes, Type, Date };
+    box.setViewMode(QFileDialog::Detail);
+    list->hideColumn(Bytes);
+    list->hideColumn(Type);
+    list->header()->setStretchLastSection(false);
+    list->header()->setSectionResizeMode(Name, QHeaderView::Stretch);
+    list->header()->setSectionResizeMode(Date, QHeaderView::ResizeToContents);
+    list->sortByColumn(Date, Qt::DescendingOrder);
 }
 
 } // namespace
@@ -54,6 +75,8 @@ std::string File(QWidget* parent, const FileDialogRequest& request)
     box.setAcceptMode(request.save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     box.setFileMode(request.save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
     box.setOption(QFileDialog::DontConfirmOverwrite);
+    box.setOption(QFileDialog::DontUseNativeDialog, !SystemHasFileDialog);
+    ShowNewestFirst(box);
     box.resize(FileDialogSize);
     if (!request.name.empty()) {
         box.selectFile(ToText(request.name));

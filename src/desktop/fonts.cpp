@@ -117,16 +117,33 @@ Ink DrawLine(const std::string& line, const Font& font, const QColor& colour, do
     return ink;
 }
 
+/// The numbers of the cards come in every size.
+bool CanBeOnCards(const QString& family)
+{
+    const auto systems = QFontDatabase::writingSystems(family);
+    return !QFontDatabase::isPrivateFamily(family) && QFontDatabase::isSmoothlyScalable(family) &&
+           systems.contains(QFontDatabase::Latin) && !systems.contains(QFontDatabase::Symbol);
+}
+
+/// The toolkit adds " [foundry]" where a family comes from several.
+QString WithoutFoundry(const QString& family)
+{
+    return family.endsWith(QLatin1Char(']')) ? family.section(QLatin1String(" ["), 0, 0) : family;
+}
+
 } // namespace
 
 std::vector<std::string> FontNames()
 {
     std::vector<std::string> names;
     for (const QString& family : QFontDatabase::families()) {
-        if (!QFontDatabase::isPrivateFamily(family)) {
-            names.push_back(ToBytes(family));
+        if (CanBeOnCards(family)) {
+            names.push_back(ToBytes(WithoutFoundry(family)));
         }
     }
+    std::ranges::sort(names);
+    const auto doubles = std::ranges::unique(names);
+    names.erase(doubles.begin(), doubles.end());
     return names;
 }
 

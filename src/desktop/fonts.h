@@ -23,7 +23,7 @@ namespace tessarine
 /// font before the thread is ready waits for it. Needs a QApplication.
 std::jthread ReadFontsAhead();
 
-/// The names of the fonts that can be shown.
+/// The names of the fonts that digits can be written in at every size, each once.
 std::vector<std::string> FontNames();
 
 /// The font for one of the toolkit's own widgets.

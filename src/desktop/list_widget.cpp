@@ -3,6 +3,7 @@
 #include "desktop/widgets.h"
 
 #include <QAbstractListModel>
+#include <QHelpEvent>
 #include <QItemSelectionModel>
 #include <QKeyEvent>
 #include <QListView>
@@ -150,6 +151,18 @@ protected:
         chosen_->Show(selected ? entries_.index(static_cast<int>(*selected)) : QModelIndex());
     }
 
+    /// A row tells its name where not all of it is seen; else the list's own tip comes up.
+    bool viewportEvent(QEvent* event) override
+    {
+        if (event->type() == QEvent::ToolTip) {
+            const QModelIndex row = indexAt(static_cast<QHelpEvent*>(event)->pos());
+            if (!row.isValid() || sizeHintForIndex(row).width() <= viewport()->width()) {
+                event->ignore();
+                return false;
+            }
+        }
+        return QListView::viewportEvent(event);
+    }
     // The toolkit's own way with the mouse is to choose.
     void mousePressEvent(QMouseEvent* event) override { event->accept(); }
     void mouseMoveEvent(QMouseEvent* event) override { event->accept(); }

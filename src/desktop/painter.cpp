@@ -16,6 +16,14 @@ namespace tessarine
 namespace
 {
 
+/// In logical pixels: one more for each width of a designed card, so that a large card has the looks of
+/// a small one. What is narrower than two of them has a thin line.
+double BorderOf(const Label& label)
+{
+    constexpr Twips widthPerLine = 405;
+    return std::max(1.0, std::floor(label.Width() / widthPerLine));
+}
+
 bool HidesWhatLiesBehind(const Control& light)
 {
     return light.Kind() == ControlKind::Label && static_cast<const Label&>(light).IsOpaque();
@@ -34,13 +42,6 @@ QRegion InDevicePixels(const QRegion& region, double ratio, const QRect& all)
         scaled += QRect(left, top, right - left, bottom - top) & all;
     }
     return scaled;
-}
-
-QColor Mixed(const QColor& one, const QColor& other, double share)
-{
-    const auto part = [share](int from, int to) { return NearestPixel(from + (to - from) * share); };
-    return {part(one.red(), other.red()), part(one.green(), other.green()),
-            part(one.blue(), other.blue())};
 }
 
 } // namespace
@@ -123,13 +124,21 @@ void Painter::FillFrame(const QRect& rect, int thickness, const QColor& colour)
     painter_.fillRect(rect.left(), rect.top() + rect.height() - thickness, width, thickness, colour);
 }
 
-void Painter::FillSunkenFrame(const QRect& rect, int thickness, const QColor& ground)
+/// Paints the border and returns its thickness in pixels.
+int Painter::FrameLabel(const Label& label, const QRect& rect)
 {
-    constexpr double shade = 0.55;
-    FillFrame(rect, thickness, Mixed(ground, Qt::white, shade));
-    const QColor dark = Mixed(ground, Qt::black, shade);
+    const int thickness = std::max(1, NearestPixel(BorderOf(label) * ratio_));
+    const Colour area = label.BackColor();
+    const Colour around = label.Parent()->BackColor();
+    if (!label.IsSunken()) {
+        FillFrame(rect, thickness, EdgeOf(area, around));
+        return thickness;
+    }
+    FillFrame(rect, thickness, EdgeOf(area, around, Edge::Lit));
+    const QColor dark = EdgeOf(area, around, Edge::Shaded);
     painter_.fillRect(rect.left(), rect.top(), rect.width() - thickness, thickness, dark);
     painter_.fillRect(rect.left(), rect.top(), thickness, rect.height() - thickness, dark);
+    return thickness;
 }
 
 void Painter::PaintLabel(const Label& label)
@@ -137,12 +146,8 @@ void Painter::PaintLabel(const Label& label)
     QRect rect = RectOf(label);
     const QColor ground = ToQColor(label.BackColor());
     if (label.HasBorder()) {
-        if (label.IsSunken()) {
-            FillSunkenFrame(rect, Border(), ground);
-        } else {
-            FillFrame(rect, Border(), EdgeOf(label.BackColor()));
-        }
-        rect.adjust(Border(), Border(), -Border(), -Border());
+        const int border = FrameLabel(label, rect);
+        rect.adjust(border, border, -border, -border);
     }
     if (label.IsOpaque()) {
         painter_.fillRect(rect, ground);

@@ -40,8 +40,7 @@ private:
     int Border() const;
 
     void FillFrame(const QRect& rect, int thickness, const QColor& colour);
-    /// Dark at the top and left, light at the bottom and right.
-    void FillSunkenFrame(const QRect& rect, int thickness, const QColor& ground);
+    int FrameLabel(const Label& label, const QRect& rect);
     void PaintLabel(const Label& label);
     void PaintText(const Label& label, const QRect& inside);
     void PaintInk(const Ink& ink, QPoint pen, const QRect& within);

@@ -1,4 +1,4 @@
-// What each system does in its own way before the toolkit is there. start_posix.cpp and
+// What each system does in its own way where the toolkit is no help. start_posix.cpp and
 // start_windows.cpp stand side by side, and the build chooses.
 #pragma once
 
@@ -11,5 +11,8 @@ bool MayHaveDesktop();
 
 /// Tells whoever started the program why it ends at once. The text is ASCII, one sentence.
 void SayWithoutDesktop(const char* sentence);
+
+/// Whether every desktop of this system brings a file dialog of its own.
+extern const bool SystemHasFileDialog;
 
 } // namespace tessarine

@@ -8,6 +8,8 @@
 namespace tessarine
 {
 
+const bool SystemHasFileDialog = false;
+
 bool MayHaveDesktop()
 {
     constexpr std::array variables = {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"};

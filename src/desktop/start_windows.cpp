@@ -5,6 +5,8 @@
 namespace tessarine
 {
 
+const bool SystemHasFileDialog = true;
+
 bool MayHaveDesktop()
 {
     return true;

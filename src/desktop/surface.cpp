@@ -81,7 +81,7 @@ void Surface::paintEvent(QPaintEvent* event)
     painter.PaintDrawing(*user);
     painter.PaintChildren(*user, std::nullopt);
     if (user->HasBorder()) {
-        painter.PaintBorder(EdgeOf(user->BackColor()));
+        painter.PaintBorder(EdgeOf(user->BackColor(), user->Parent()->BackColor()));
     }
     if (focusByKeyboard_ && hasFocus()) {
         painter.PaintFocus(ToQColor(TextColour(user->BackColor(), user->ForeColor())));
