@@ -58,7 +58,7 @@ float Scaling::FirstFactor(float wanted) const
 Twips Scaling::WidthOfItems() const
 {
     constexpr int lastPileBase = FirstPileBase + Piles - 1;
-    return table_.SlotLeft[At(lastPileBase)] + table_.shared().CardWidth;
+    return table_.SlotLeft[lastPileBase] + table_.shared().CardWidth;
 }
 
 /// Each number is rounded by itself, from its last rounded value.

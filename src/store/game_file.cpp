@@ -1,8 +1,7 @@
 #include "store/game_file.h"
 
 #include "runtime/files.h"
-
-#include <array>
+#include "runtime/numbered.h"
 
 namespace tessarine
 {
@@ -21,13 +20,13 @@ std::string FaultOfGame(const std::vector<std::string>& lines)
     if (lines.size() < CardCount) {
         return "It has fewer than 50 lines";
     }
-    std::array<bool, CardCount> seen{};
+    Numbered<bool, CardCount> seen;
     for (std::size_t n = 0; n < CardCount; ++n) {
         const std::string where = "Line " + std::to_string(n + 1);
         if (!IsCard(lines[n])) {
             return where + " is no card from 00 to 49";
         }
-        bool& known = seen[At(CardOfEntry(lines[n]))];
+        bool& known = seen[CardOfEntry(lines[n])];
         if (known) {
             return where + " holds a card a second time";
         }

@@ -18,16 +18,19 @@ void Hand::PickUp(int card, PixelPoint cursor)
         table_.cardy[DragCards_.back()].BringToFront();
     }
     const Label& head = table_.cardy[card];
-    DragHome_ = {RoundHalfEven(head.Left()), RoundHalfEven(head.Top())};
-    DragCursor_ = cursor;
+    DragHomeLeft = RoundHalfEven(head.Left());
+    DragHomeTop = RoundHalfEven(head.Top());
+    DragCursorX = cursor.x;
+    DragCursorY = cursor.y;
     dragging_ = true;
 }
 
 void Hand::Follow(PixelPoint cursor)
 {
-    const Whole dx = (cursor.x - DragCursor_.x) * table_.shared().TwipsX;
-    const Whole dy = (cursor.y - DragCursor_.y) * table_.shared().TwipsY;
-    DragCursor_ = cursor;
+    const Whole dx = (cursor.x - DragCursorX) * table_.shared().TwipsX;
+    const Whole dy = (cursor.y - DragCursorY) * table_.shared().TwipsY;
+    DragCursorX = cursor.x;
+    DragCursorY = cursor.y;
     for (const int card : DragCards_) {
         Label& label = table_.cardy[card];
         label.Move(label.Left() + dx, label.Top() + dy);
@@ -42,12 +45,12 @@ void Hand::Take(int card)
 
 bool Hand::GoHome()
 {
-    if (!DragHome_) {
+    if (!DragHomeLeft) {
         return false;
     }
-    Whole top = DragHome_->top;
+    Whole top = DragHomeTop;
     for (const int card : DragCards_) {
-        table_.cardy[card].Move(DragHome_->left, top);
+        table_.cardy[card].Move(*DragHomeLeft, top);
         top += table_.shared().FanStep;
     }
     return true;
@@ -56,7 +59,7 @@ bool Hand::GoHome()
 void Hand::Forget()
 {
     DragCards_.clear();
-    DragHome_.reset();
+    DragHomeLeft.reset();
     dragging_ = false;
 }
 

@@ -41,15 +41,12 @@ public:
     void Forget();
 
 private:
-    struct Place {
-        Whole left = 0;
-        Whole top = 0;
-    };
-
     Table& table_;
     std::vector<int> DragCards_;
-    std::optional<Place> DragHome_; ///< of the head, when the drag began
-    PixelPoint DragCursor_;         ///< at the last step
+    std::optional<Whole> DragHomeLeft; ///< of the head, when a drag began
+    Whole DragHomeTop = 0;
+    Whole DragCursorX = 0; ///< on the screen, at the last step
+    Whole DragCursorY = 0;
     bool dragging_ = false;
 };
 

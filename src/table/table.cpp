@@ -46,16 +46,17 @@ void Table::CreateCards()
     }
     cardy[0].SetBackColor(shared_.Background());
 
-    for (int suit = 1; suit <= Suits; ++suit) {
+    int card = 0;
+    for (std::size_t suit = 1; suit <= SuitLetters.size(); ++suit) {
         for (int number = 0; number < CardsInSuit; ++number) {
-            SetCardName((suit - 1) * CardsInSuit + number, number, suit);
+            SetCardName(card++, number, suit);
         }
     }
 }
 
-void Table::SetCardName(int card, int number, int suitNumber)
+void Table::SetCardName(int card, int number, std::size_t suitNumber)
 {
-    CardName[card] = TwoDigits(number) + SuitLetters[At(suitNumber - 1)];
+    CardName[card] = TwoDigits(number) + SuitLetters[suitNumber - 1];
 }
 
 int Table::CardNumber(int item) const

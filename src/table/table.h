@@ -69,7 +69,7 @@ public:
     const Sound& sound() const { return sound_; }
 
 private:
-    void SetCardName(int card, int number, int suitNumber);
+    void SetCardName(int card, int number, std::size_t suitNumber);
 
     Form& form_;
     Module1& shared_;
