@@ -16,7 +16,7 @@ Form1::Form1(Platform& platform, const std::string& programPath, const std::stri
       undo(table), deal(table, hand, undo), ring(table), drops(table, hand, ring, undo),
       automove(table, hand, drops, [this] { gameCommands.GameWon(); }),
       gestures({table, hand, ring, drops, undo, automove}), scaling(table, NextCard),
-      resizing(table, hand, scaling, door), configuration(platform, shared.AppDir, shared, msgForm),
+      resizing(table, scaling, door), configuration(platform, shared.AppDir, shared, msgForm),
       gameFile(table, deal, scaling, ring), snapshot(table, gameFile),
       gameCommands({table, deal, scaling, ring, undo, gameFile, snapshot, Score1, msgForm, gf1}),
       schemeStore(shared, msgForm), form6(list, shared, schemeStore, msgForm, sound, Command2),
@@ -105,7 +105,13 @@ void Form1::ConnectButtons()
     onPress(cmdundo, [this] { undo.cmdundo_MouseUp(); });
     onPress(NextCard[0], [this] { ring.NextCard_MouseUp(0); });
     onPress(NextCard[1], [this] { ring.NextCard_MouseUp(1); });
-    onPress(Command2, [this] { Command2_Click(); });
+    // The options dialog may apply in the middle of a layout. The one inside is whole before the other
+    // goes on, with the same numbers.
+    Command2.MouseUp = [this](const MouseEvent&) { door.Enter([this] { Command2_Click(); }); };
+    // The panel's own buttons act by themselves, and a question may follow.
+    for (PushButton* button : {&Score1.Command1, &Score1.Command2}) {
+        onPress(*button, [press = button->MouseUp] { press({}); });
+    }
     Score1.OnCloseButton = [this] { Score1.SetVisible(false); };
 }
 

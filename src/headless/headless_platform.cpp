@@ -341,17 +341,18 @@ Size HeadlessPlatform::TextSize(const Font& font, std::string_view text)
 
 // --- the system's own boxes, and sound ---
 
-/// A box of the system takes the mouse from all forms.
-void HeadlessPlatform::TakeMouse()
+/// A box of the system takes the mouse from all forms and lets events run.
+void HeadlessPlatform::OpenBox()
 {
     for (Form* form : windows_) {
         form->FeedMouseLost();
     }
+    RunNextMeanwhile();
 }
 
 bool HeadlessPlatform::PlainMessage(const std::string& text, PlainButtons buttons)
 {
-    TakeMouse();
+    OpenBox();
     plainMessages.push_back(text);
     if (plainAnswers.empty()) {
         return buttons == PlainButtons::Ok;
@@ -363,7 +364,7 @@ bool HeadlessPlatform::PlainMessage(const std::string& text, PlainButtons button
 
 std::string HeadlessPlatform::AskForText(const std::string& /*prompt*/)
 {
-    TakeMouse();
+    OpenBox();
     if (typedAnswers.empty()) {
         return {};
     }
@@ -374,7 +375,7 @@ std::string HeadlessPlatform::AskForText(const std::string& /*prompt*/)
 
 std::string HeadlessPlatform::ChooseFile(const FileDialogRequest& request, Form* /*owner*/)
 {
-    TakeMouse();
+    OpenBox();
     fileDialogs.push_back(request);
     if (chosenFiles.empty()) {
         return {};

@@ -34,8 +34,8 @@ public:
     std::deque<bool> plainAnswers;
     std::deque<std::string> typedAnswers;
     std::deque<std::string> chosenFiles;
-    /// Runs inside the next call that lets pending events run or waits, one entry a call: input in the
-    /// middle of something.
+    /// Runs inside the next call that lets pending events run, waits, or opens a box of the system, one
+    /// entry a call: input in the middle of something.
     std::deque<std::function<void()>> meanwhile;
 
     // --- what happened ---
@@ -146,7 +146,7 @@ private:
     };
 
     void RaiseWindow(Form& form);
-    void TakeMouse();
+    void OpenBox();
     bool HasRoundToFinish() const;
     void FinishRound();
     void PaintChanges();

@@ -9,8 +9,8 @@ constexpr int WaitMilliseconds = 100;
 
 } // namespace
 
-Resizing::Resizing(Table& table, const Hand& hand, Scaling& scaling, Door& door)
-    : table_(table), hand_(hand), scaling_(scaling), door_(door), Timer3(table.form().platform())
+Resizing::Resizing(Table& table, Scaling& scaling, Door& door)
+    : table_(table), scaling_(scaling), door_(door), Timer3(table.form().platform())
 {
     Timer3.SetInterval(WaitMilliseconds);
     Timer3.OnTick = [this] { Timer3_Timer(); };
@@ -26,10 +26,11 @@ void Resizing::Form_Resize()
     Timer3.SetEnabled(true);
 }
 
-/// In the middle of a move the timer stays on and ticks again: the rescale waits for the move's end.
+/// In the middle of a move, and while a button of the mouse is down on something, the timer stays on and
+/// ticks again: the rescale waits for the end, and no release falls into it.
 void Resizing::Timer3_Timer()
 {
-    if (!hand_.IsEmpty()) {
+    if (table_.form().Captured() != nullptr) {
         return;
     }
     door_.Pass([this] {

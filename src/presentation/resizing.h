@@ -4,7 +4,6 @@
 #include "presentation/scaling.h"
 #include "runtime/door.h"
 #include "runtime/timer.h"
-#include "table/hand.h"
 #include "table/table.h"
 
 namespace tessarine
@@ -13,7 +12,7 @@ namespace tessarine
 class Resizing
 {
 public:
-    Resizing(Table& table, const Hand& hand, Scaling& scaling, Door& door);
+    Resizing(Table& table, Scaling& scaling, Door& door);
 
     /// The window's size changed, for whatever reason: notes the ratio of the new width to that of
     /// the last layout and starts the wait. Further changes during the wait are dropped.
@@ -23,7 +22,6 @@ private:
     void Timer3_Timer();
 
     Table& table_;
-    const Hand& hand_;
     Scaling& scaling_;
     Door& door_;
     Timer Timer3;

@@ -21,9 +21,16 @@ public:
     template <class Action> void Pass(const Action& action)
     {
         if (IsOpen()) {
-            const Visit visit(*this);
-            action();
+            Enter(action);
         }
+    }
+
+    /// Runs the action whatever is half done, and keeps the door shut meanwhile: for what may not be
+    /// lost.
+    template <class Action> void Enter(const Action& action)
+    {
+        const Visit visit(*this);
+        action();
     }
 
 private:

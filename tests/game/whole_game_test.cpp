@@ -136,6 +136,42 @@ TEST(MiddleOfAMoveTest, APressAndItsReleaseBelongTogether)
     EXPECT_GT(world.form.shared.CardWidth, 700);
 }
 
+TEST(MiddleOfAMoveTest, ALayoutWaitsForTheReleaseOfAPress)
+{
+    GameWorld world;
+    world.Arrange({.stock = {Card('C', 1)}, .piles = {{Card('S', 0)}}});
+    const Point at = world.form.NextCard[1].PlaceOnForm();
+    const std::vector<int> ring = world.Cards(StockStack);
+    world.platform.Press(world.form, at.x + 50, at.y + 50);
+    world.form.FeedResize({7920, 7710});
+    world.platform.meanwhile.emplace_back(
+        [&] { world.platform.Release(world.form, at.x + 50, at.y + 50); });
+    world.platform.Advance(200);
+    EXPECT_EQ(world.form.shared.CardWidth, 405);
+    world.platform.RunPendingEvents();
+    EXPECT_NE(world.Cards(StockStack), ring) << "the press is not lost";
+    world.platform.Advance(100);
+    EXPECT_NEAR(world.form.shared.CardWidth, 405 * 8040.0 / 4080, 1);
+}
+
+TEST(MiddleOfAMoveTest, WhatTheOptionsApplyInTheMiddleOfALayoutIsWorn)
+{
+    GameWorld world;
+    world.Arrange({.stock = {Card('C', 1)}, .piles = {{Card('S', 0)}}});
+    world.platform.OnNextModal([&](Form& options) {
+        world.platform.meanwhile.emplace_back([&] {
+            world.form.form6.List2.UserPicks(1);
+            world.Press(world.form.form6.command3);
+        });
+        world.form.FeedResize({7920, 7710});
+        world.platform.Advance(100);
+        options.Hide();
+    });
+    world.Press(world.form.cmdopts);
+    EXPECT_EQ(world.form.shared.CardFont, "Courier New");
+    EXPECT_EQ(world.table.cardy[Card('S', 0)].Font().name, "Courier New");
+}
+
 /// Somebody reads the table whenever events run during a deal: every card has its stack, and every item
 /// an answer.
 TEST(MiddleOfAMoveTest, ADealIsWholeBeforeAnythingElseRuns)

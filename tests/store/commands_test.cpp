@@ -145,6 +145,10 @@ TEST(ProgramCommandsTest, ScoresPanelLeavesTheTableLive)
     EXPECT_EQ(world.table.Picture2.Children().back(), &world.form.Score1);
     world.Press(world.form.NextCard[1]);
     EXPECT_EQ(world.TakeSounds(), (Texts{"_menu.wav", "_nextcard.wav"}));
+    world.platform.meanwhile.emplace_back([&] { world.form.cmdnewgame.UserActivates(); });
+    world.Press(world.form.Score1.Command2);
+    EXPECT_EQ(world.platform.plainMessages, Texts{"Clear ALL scores"});
+    EXPECT_TRUE(world.platform.modalCaptions.empty()) << "the question comes before any other";
     world.Press(world.form.Score1.Command1);
     EXPECT_FALSE(world.form.Score1.Visible());
 }
