@@ -139,7 +139,7 @@ TEST(MiddleOfAMoveTest, APressAndItsReleaseBelongTogether)
 TEST(MiddleOfAMoveTest, ALayoutWaitsForTheReleaseOfAPress)
 {
     GameWorld world;
-    world.Arrange({.stock = {Card('C', 1)}, .piles = {{Card('S', 0)}}});
+    world.Arrange({.stock = {C1}, .piles = {{S0}}});
     const Point at = world.form.NextCard[1].PlaceOnForm();
     const std::vector<int> ring = world.Cards(StockStack);
     world.platform.Press(world.form, at.x + 50, at.y + 50);
@@ -157,7 +157,7 @@ TEST(MiddleOfAMoveTest, ALayoutWaitsForTheReleaseOfAPress)
 TEST(MiddleOfAMoveTest, WhatTheOptionsApplyInTheMiddleOfALayoutIsWorn)
 {
     GameWorld world;
-    world.Arrange({.stock = {Card('C', 1)}, .piles = {{Card('S', 0)}}});
+    world.Arrange({.stock = {C1}, .piles = {{S0}}});
     world.platform.OnNextModal([&](Form& options) {
         world.platform.meanwhile.emplace_back([&] {
             world.form.form6.List2.UserPicks(1);
@@ -169,7 +169,7 @@ TEST(MiddleOfAMoveTest, WhatTheOptionsApplyInTheMiddleOfALayoutIsWorn)
     });
     world.Press(world.form.cmdopts);
     EXPECT_EQ(world.form.shared.CardFont, "Courier New");
-    EXPECT_EQ(world.table.cardy[Card('S', 0)].Font().name, "Courier New");
+    EXPECT_EQ(world.table.cardy[S0].Font().name, "Courier New");
 }
 
 /// Somebody reads the table whenever events run during a deal: every card has its stack, and every item
