@@ -142,8 +142,7 @@ std::vector<std::string> FontNames()
         }
     }
     std::ranges::sort(names);
-    const auto doubles = std::ranges::unique(names);
-    names.erase(doubles.begin(), doubles.end());
+    names.erase(std::unique(names.begin(), names.end()), names.end());
     return names;
 }
 
