@@ -17,7 +17,7 @@ struct Start {
 
 Start Run(const std::string& program)
 {
-    const auto now = std::chrono::steady_clock::now().time_since_epoch();
+    const auto now = std::chrono::system_clock::now().time_since_epoch();
     const double startedAt = std::chrono::duration<double, std::milli>(now).count();
     const std::string command = "STARTED_AT=" + std::to_string(startedAt) + " exec " + program;
     Start start;

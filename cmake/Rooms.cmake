@@ -2,7 +2,11 @@
 
 add_library(tessarine_options INTERFACE)
 target_include_directories(tessarine_options INTERFACE ${CMAKE_SOURCE_DIR}/src)
-target_compile_options(tessarine_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion)
+if(MSVC)
+  target_compile_options(tessarine_options INTERFACE /W4 /utf-8)
+else()
+  target_compile_options(tessarine_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion)
+endif()
 # Warnings are errors with the compilers that the code is checked with. A newer one may know more of
 # them, and a player should not be kept from playing by that.
 if((CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13) OR

@@ -88,7 +88,11 @@ FileFault WriteNew(const std::filesystem::path& path, std::string_view bytes)
                             FILE_ATTRIBUTE_NORMAL, nullptr));
     const bool isOnDisk = file.IsOpen() && WriteAll(file.Get(), bytes) &&
                           FlushFileBuffers(file.Get()) != 0 && file.Close();
-    return isOnDisk ? FileFault::None : LastFault();
+    if (isOnDisk) {
+        return FileFault::None;
+    }
+    const FileFault fault = LastFault();
+    return HasAttributes(path, FILE_ATTRIBUTE_DIRECTORY) ? FileFault::IsFolder : fault;
 }
 
 FileFault Rename(const std::filesystem::path& from, const std::filesystem::path& to)

@@ -1,5 +1,6 @@
 #include "contract/platform_contract.h"
 
+#include "desktop/text.h"
 #include "stage.h"
 
 #include <QElapsedTimer>
@@ -16,7 +17,7 @@ public:
     DesktopWorld() { clock_.start(); }
 
     Platform& platform() { return platform_; }
-    std::string WritableFolder() { return folder_.path().toStdString() + '/'; }
+    std::string WritableFolder() { return PathToBytes(folder_.path() + QLatin1Char('/')); }
     std::int64_t Milliseconds() { return clock_.elapsed(); }
     void LetTimePass(int milliseconds) { QTest::qWait(milliseconds); }
     void WhenModal(std::function<void()> user) { tessarine::WhenModal(std::move(user)); }

@@ -16,7 +16,10 @@ int main(int argc, char* argv[])
         {"name": "left", "x": 0, "y": 0, "width": 800, "height": 800},
         {"name": "right", "x": 800, "y": 0, "width": 900, "height": 700}]})");
     screens.close();
-    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + screens.fileName().toUtf8());
+    const bool onRealScreen = qEnvironmentVariableIsSet("TESSARINE_REAL_SCREEN");
+    if (!onRealScreen) {
+        qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + screens.fileName().toUtf8());
+    }
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
         Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     QCoreApplication::setAttribute(Qt::AA_Use96Dpi);
