@@ -27,7 +27,7 @@ void PageView::doSetSource(const QUrl& url, QTextDocument::ResourceType type)
 /// Scaled with care here, since the page itself is drawn with the fastest means.
 QVariant PageView::loadResource(int type, const QUrl& url)
 {
-    const QVariant resource = QTextBrowser::loadResource(type, url);
+    QVariant resource = QTextBrowser::loadResource(type, url);
     QImage picture;
     if (type != QTextDocument::ImageResource || !picture.loadFromData(resource.toByteArray())) {
         return resource;

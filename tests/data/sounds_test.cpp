@@ -51,7 +51,7 @@ TEST(Sounds, AreElevenShortEquallyLoudSilentAtTheirEndsAndNoTwoAlike)
         const auto sound = ReadSound(ReadFile(TESSARINE_BUILT_DIR "/" + name));
         const std::span samples = sound;
         ASSERT_GE(sound.size(), 60 * Millisecond);
-        EXPECT_LE(sound.size(), (milliseconds + 1) * Millisecond);
+        EXPECT_LE(sound.size(), static_cast<std::size_t>(milliseconds + 1) * Millisecond);
         EXPECT_NEAR(Loudest(samples), peak, peak * 0.01);
         EXPECT_EQ(samples.front(), 0);
         EXPECT_LE(Loudest(samples.first(Millisecond / 4)), peak * 0.05);
