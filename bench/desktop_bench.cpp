@@ -98,10 +98,10 @@ private:
     {
         Table& table = form.table;
         for (int card = CardsInSuit - 1; card >= 0; --card) {
-            TextList& stack = table.Stacks[At(table.StackOf(card))];
+            TextList& stack = table.Stacks[table.StackOf(card)];
             stack.RemoveAt(*stack.Find(EntryOfCard(card)));
             table.LayOn(0, card, 0, 0);
-            table.cardy[At(card)].SetVisible(true);
+            table.cardy[card].SetVisible(true);
             table.ShowCardFace(card);
         }
         form.scaling.ScaleTable(1.0F);

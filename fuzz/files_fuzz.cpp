@@ -50,7 +50,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     form.form6.FillSchemeList();
     form.Score1.SetWonSession(true);
     platform.Click(form.cmdnewgame);
-    if (form.table.CardOrder.Count() != CardCount || form.table.Stacks[At(StockStack)].Count() != 23) {
+    if (form.table.CardOrder.Count() != CardCount || form.table.Stacks[StockStack].Count() != 23) {
         std::abort(); // the game did not go on
     }
     return 0;

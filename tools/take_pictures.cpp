@@ -63,21 +63,21 @@ public:
             return true;
         }
         form_.ring.NextStockCard();
-        return ++turns_ <= static_cast<int>(table_.Stacks[At(StockStack)].Count());
+        return ++turns_ <= static_cast<int>(table_.Stacks[StockStack].Count());
     }
 
     int CardsLeft() const
     {
         int left = 0;
         for (int stack = 0; stack <= StockStack; ++stack) {
-            left += static_cast<int>(table_.Stacks[At(stack)].Count());
+            left += static_cast<int>(table_.Stacks[stack].Count());
         }
         return left - 1; // the marker
     }
 
     int HeadOfRun(int column) const
     {
-        for (const std::string& entry : table_.Stacks[At(column)]) {
+        for (const std::string& entry : table_.Stacks[column]) {
             if (table_.IsFaceUp(CardOfEntry(entry))) {
                 return CardOfEntry(entry);
             }
@@ -94,8 +94,8 @@ public:
     /// Takes a card and moves it part of the way to another item; the button stays down.
     void Hold(int card, int onto, double part)
     {
-        const Label& from = table_.cardy[At(card)];
-        const Label& to = table_.cardy[At(onto)];
+        const Label& from = table_.cardy[card];
+        const Label& to = table_.cardy[onto];
         const Point grip{60, 60};
         const Point start = from.PlaceOnForm();
         pointer_ = {start.x + grip.x, start.y + grip.y};
@@ -121,7 +121,7 @@ private:
 
     bool MoveOneFrom(int stack, bool ontoPiles)
     {
-        const TextList& entries = table_.Stacks[At(stack)];
+        const TextList& entries = table_.Stacks[stack];
         if (entries.IsEmpty() || entries.Back() == Marker) {
             return false;
         }
@@ -140,7 +140,7 @@ private:
 
     bool MoveOntoColumn(int head, int source)
     {
-        const bool hasCardsBehind = EntryOfCard(head) != table_.Stacks[At(source)].Front();
+        const bool hasCardsBehind = EntryOfCard(head) != table_.Stacks[source].Front();
         for (int column = 0; column < Columns; ++column) {
             const int top = table_.TopCard(column);
             if (column != source && top != NoCard && FollowsInColumn(table_, head, top)) {
@@ -180,7 +180,7 @@ QPixmap TablePicture(const Form1& form)
 {
     Twips bottom = 0;
     for (int card = 0; card < CardCount; ++card) {
-        const Label& label = form.table.cardy[At(card)];
+        const Label& label = form.table.cardy[card];
         bottom = std::max(bottom, label.Visible() ? label.PlaceOnForm().y + label.Height() : 0);
     }
     QCoreApplication::processEvents();

@@ -280,30 +280,31 @@ Size DesktopPlatform::TextSize(const Font& font, std::string_view text)
 }
 
 /// A box of the system takes the mouse from all forms: a release reaches the box, or nobody.
-void DesktopPlatform::TakeMouse()
+template <class Ask> auto DesktopPlatform::InBox(const Ask& ask)
 {
+    const OpenBox box(*this);
     for (const auto& [form, window] : windows_) {
         window->LoseMouse();
     }
+    return ask();
 }
 
 bool DesktopPlatform::PlainMessage(const std::string& text, PlainButtons buttons)
 {
-    TakeMouse();
-    return dialogs::Message(OwnerOfBox(), text, buttons);
+    return InBox([&] { return dialogs::Message(OwnerOfBox(), text, buttons); });
 }
 
 std::string DesktopPlatform::AskForText(const std::string& prompt)
 {
-    TakeMouse();
-    return dialogs::Text(OwnerOfBox(), prompt);
+    return InBox([&] { return dialogs::Text(OwnerOfBox(), prompt); });
 }
 
 std::string DesktopPlatform::ChooseFile(const FileDialogRequest& request, Form* owner)
 {
-    TakeMouse();
     QWidget* const window = owner == nullptr ? nullptr : WindowOf(*owner);
-    return dialogs::File(window == nullptr ? QApplication::activeWindow() : window, request);
+    return InBox([&] {
+        return dialogs::File(window == nullptr ? QApplication::activeWindow() : window, request);
+    });
 }
 
 void DesktopPlatform::PlayWave(const std::string& path)

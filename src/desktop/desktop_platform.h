@@ -81,7 +81,7 @@ private:
     using Window = std::unique_ptr<FormWindow, EndWindow>;
 
     FormWindow& MakeWindow(Form& form);
-    void TakeMouse();
+    template <class Ask> auto InBox(const Ask& ask);
     void FireTimer(int number);
 
     Desk desk_;

@@ -342,8 +342,9 @@ Size HeadlessPlatform::TextSize(const Font& font, std::string_view text)
 // --- the system's own boxes, and sound ---
 
 /// A box of the system takes the mouse from all forms and lets events run.
-void HeadlessPlatform::OpenBox()
+void HeadlessPlatform::LetUserMeetBox()
 {
+    const OpenBox box(*this);
     for (Form* form : windows_) {
         form->FeedMouseLost();
     }
@@ -352,7 +353,7 @@ void HeadlessPlatform::OpenBox()
 
 bool HeadlessPlatform::PlainMessage(const std::string& text, PlainButtons buttons)
 {
-    OpenBox();
+    LetUserMeetBox();
     plainMessages.push_back(text);
     if (plainAnswers.empty()) {
         return buttons == PlainButtons::Ok;
@@ -364,7 +365,7 @@ bool HeadlessPlatform::PlainMessage(const std::string& text, PlainButtons button
 
 std::string HeadlessPlatform::AskForText(const std::string& /*prompt*/)
 {
-    OpenBox();
+    LetUserMeetBox();
     if (typedAnswers.empty()) {
         return {};
     }
@@ -375,7 +376,7 @@ std::string HeadlessPlatform::AskForText(const std::string& /*prompt*/)
 
 std::string HeadlessPlatform::ChooseFile(const FileDialogRequest& request, Form* /*owner*/)
 {
-    OpenBox();
+    LetUserMeetBox();
     fileDialogs.push_back(request);
     if (chosenFiles.empty()) {
         return {};

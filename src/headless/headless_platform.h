@@ -146,7 +146,7 @@ private:
     };
 
     void RaiseWindow(Form& form);
-    void OpenBox();
+    void LetUserMeetBox();
     bool HasRoundToFinish() const;
     void FinishRound();
     void PaintChanges();

@@ -93,7 +93,7 @@ public:
     Forms& AllForms() const { return forms_; }
     Platform& platform() const { return forms_.platform(); }
 
-    /// Whether presses reach the form: no other form is modal before it, and it is not busy.
+    /// Whether presses reach the form: no box and no modal form is open before it, and it is not busy.
     bool TakesInput() const { return !IsBehindModal() && !IsBusy(); }
 
     // --- what the platform feeds in; lengths in twips of the client area ---
@@ -133,7 +133,10 @@ private:
     friend class Control;
     friend class Container;
 
-    bool IsBehindModal() const { return forms_.Modal() != nullptr && forms_.Modal() != this; }
+    bool IsBehindModal() const
+    {
+        return platform().HasBoxOpen() || (forms_.Modal() != nullptr && forms_.Modal() != this);
+    }
     void Activate();
     void NoteChange(Control& control);
     void Forget(Control& control);

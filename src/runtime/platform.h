@@ -95,6 +95,8 @@ public:
     virtual Size TextSize(const Font& font, std::string_view text) = 0;
 
     // The system's own boxes.
+    /// Whether one is open; it then keeps input from every form.
+    bool HasBoxOpen() const { return openBoxes_ > 0; }
     /// True for Ok and for Yes.
     virtual bool PlainMessage(const std::string& text, PlainButtons buttons) = 0;
     /// The text typed; empty when nothing was or on cancel.
@@ -124,6 +126,23 @@ public:
     virtual void ChangeFolder(const std::string& folder) = 0;
     /// The characters that part folders, the usual one first.
     virtual std::string_view FolderSeparators() const = 0;
+
+protected:
+    /// A box of the system is open for as long as one of these lives.
+    class OpenBox
+    {
+    public:
+        explicit OpenBox(Platform& platform) : platform_(platform) { ++platform_.openBoxes_; }
+        ~OpenBox() { --platform_.openBoxes_; }
+        OpenBox(const OpenBox&) = delete;
+        OpenBox& operator=(const OpenBox&) = delete;
+
+    private:
+        Platform& platform_;
+    };
+
+private:
+    int openBoxes_ = 0;
 };
 
 } // namespace tessarine

@@ -63,9 +63,4 @@ constexpr bool IsSpare(int item)
     return (item > StockItem && item < FirstPileBase) || item >= FirstColumnBase + Columns;
 }
 
-constexpr std::size_t At(int index)
-{
-    return static_cast<std::size_t>(index);
-}
-
 } // namespace tessarine

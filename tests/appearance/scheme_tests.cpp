@@ -150,7 +150,9 @@ TEST_F(Schemes, AreReplacedInTheirPlaceAndDeleted)
     PickScheme("grey");
     MakeScheme(module, Rgb(1, 2, 3), 100);
     const std::string made = EntryText("grey.col", module);
+    platform.meanwhile.emplace_back([this] { dialog.delsch.UserActivates(); }); // behind the question
     EXPECT_EQ(Press(dialog.repsch, false), "Replace color scheme: grey");
+    EXPECT_EQ(platform.plainMessages.size(), 4U);
     EXPECT_EQ(Press(dialog.repsch), "Color Scheme: grey.col replaced");
     EXPECT_EQ(AllCol(), GreyEntry("default.col", 100) + made + GreyEntry("slate.col", 60));
     EXPECT_EQ(platform.files["/program/newall.cox"], AllCol());

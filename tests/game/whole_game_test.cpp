@@ -33,7 +33,7 @@ TEST(WholeGameTest, EveryWayToTheWinEndsOnce)
         // The rest of the game, done: all of four suits, and the last one up to its 6.
         GameWorld::Position position{.columns = {column}, .stock = stock, .piles = {{}, {}, {}, {}, {}}};
         for (int card = S0; card <= O6; ++card) {
-            position.piles[At(card / CardsInSuit)].push_back(card);
+            position.piles[static_cast<std::size_t>(card / CardsInSuit)].push_back(card);
         }
         GameWorld world(position);
         std::vector<std::string> told;

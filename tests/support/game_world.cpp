@@ -63,13 +63,13 @@ void GameWorld::Arrange(const Position& position)
         stack.Clear();
     }
     for (int card = 0; card < CardCount; ++card) {
-        table.cardy[At(card)].SetCaption({});
-        table.cardy[At(card)].SetVisible(false);
+        table.cardy[card].SetCaption({});
+        table.cardy[card].SetVisible(false);
     }
     const auto lay = [this](int stack, const std::vector<int>& cards, int faceDown) {
         for (const int card : cards) {
             table.LayOn(stack, card, 0, 0);
-            table.cardy[At(card)].SetVisible(true);
+            table.cardy[card].SetVisible(true);
             if (--faceDown < 0) {
                 table.ShowCardFace(card);
             }
@@ -81,7 +81,7 @@ void GameWorld::Arrange(const Position& position)
     for (std::size_t pile = 0; pile < position.piles.size(); ++pile) {
         lay(FirstPile + static_cast<int>(pile), position.piles[pile], 0);
     }
-    table.Stacks[At(StockStack)].Add(std::string(Marker));
+    table.Stacks[StockStack].Add(std::string(Marker));
     lay(StockStack, position.stock, 0);
     form.undo.Clear();
     form.scaling.ScaleTable(1.0F);
@@ -96,7 +96,7 @@ std::string GameWorld::Order() const
 std::vector<int> GameWorld::Cards(int stack) const
 {
     std::vector<int> cards;
-    for (const std::string& entry : table.Stacks[At(stack)]) {
+    for (const std::string& entry : table.Stacks[stack]) {
         cards.push_back(entry == Marker ? -1 : CardOfEntry(entry));
     }
     return cards;
@@ -104,7 +104,7 @@ std::vector<int> GameWorld::Cards(int stack) const
 
 Point GameWorld::Corner(int item) const
 {
-    return table.cardy[At(item)].PlaceOnForm();
+    return table.cardy[item].PlaceOnForm();
 }
 
 Point GameWorld::Place(int item) const

@@ -17,7 +17,7 @@ template <class Choice> void PlayOneGesture(GameWorld& world, Choice&& choice)
             const int card = (start + i) % CardCount;
             const int stack = world.table.StackOf(card);
             const bool exposed = stack != StockStack || world.Cards(StockStack).back() == card;
-            if (world.table.IsFaceUp(card) && world.table.cardy[At(card)].Visible() && exposed) {
+            if (world.table.IsFaceUp(card) && world.table.cardy[card].Visible() && exposed) {
                 return card;
             }
         }

@@ -21,7 +21,7 @@ TEST(DealTest, LaysTheTriangleAndTheRing)
     std::size_t next = 0;
     for (int column = 0; column < Columns; ++column) {
         const std::vector<int> cards = world.Cards(column);
-        ASSERT_EQ(cards.size(), At(column));
+        ASSERT_EQ(static_cast<int>(cards.size()), column);
         for (std::size_t i = 0; i < cards.size(); ++i) {
             EXPECT_EQ(EntryOfCard(cards[i]), table.CardOrder.At(next++));
             EXPECT_EQ(table.IsFaceUp(cards[i]), i + 1 == cards.size());
@@ -49,7 +49,7 @@ TEST(DealTest, PlacesAtDesignSize)
     const std::vector<Whole> piles(table.StackLeft.begin() + FirstPile, table.StackLeft.end());
     EXPECT_EQ(piles, (std::vector<Whole>{1632, 2074, 2516, 2958, 3400}));
     EXPECT_EQ(table.StackTop[0], 700);
-    EXPECT_EQ(table.StackTop[At(StockStack)], 100);
+    EXPECT_EQ(table.StackTop[StockStack], 100);
     EXPECT_EQ(world.form.OuterWidth(), 4080);
     EXPECT_EQ(table.Picture2.Width(), 3905);
     EXPECT_EQ(world.form.NextCard[0].Left(), 445);
@@ -80,12 +80,12 @@ TEST(DealTest, ShufflesDifferUnderOneClockReadingAndAreFair)
 {
     GameWorld world;
     // How often each card falls on the first place: 50 shuffles of a fair deck give none 12 times.
-    std::array<int, CardCount> first{};
+    Numbered<int, CardCount> first;
     std::set<std::string> orders;
     for (int i = 0; i < 50; ++i) {
         world.form.deal.NewDeal();
         world.form.ring.NextStockCard();
-        ++first[At(CardOfEntry(world.table.CardOrder.At(0)))];
+        ++first[CardOfEntry(world.table.CardOrder.At(0))];
         orders.insert(world.Order());
     }
     EXPECT_EQ(orders.size(), 50U);
@@ -97,10 +97,10 @@ TEST(StockRingTest, TurnsWithoutEndBothWays)
     GameWorld world;
     const std::vector<int> start = world.Cards(StockStack);
     for (const std::size_t way : {1U, 0U}) {
-        for (int press = 0; press < 23; ++press) {
+        for (std::size_t press = 0; press < 23; ++press) {
             world.Press(world.form.NextCard[way]);
             EXPECT_EQ(world.Fault(), "");
-            EXPECT_EQ(world.Cards(StockStack).back(), start[At(way == 1 ? (44 - press) % 23 : press)]);
+            EXPECT_EQ(world.Cards(StockStack).back(), start[way == 1 ? (44 - press) % 23 : press]);
         }
         EXPECT_EQ(world.Cards(StockStack), start);
     }
@@ -119,7 +119,7 @@ TEST(StockRingTest, UsedUpShowsUntilTheNextLayout)
 {
     GameWorld world({.columns = {{S5}}, .stock = {S4}});
     world.DragOnto(S4, S5);
-    const Label& place = world.table.cardy[At(StockItem)];
+    const Label& place = world.table.cardy[StockItem];
     EXPECT_EQ(place.Caption(), "X");
     EXPECT_TRUE(place.Visible());
     world.form.scaling.ScaleTable(1.0F);
@@ -132,7 +132,7 @@ TEST(StockRingTest, UsedUpShowsUntilTheNextLayout)
     // An undo puts the card in front of it again.
     world.Press(world.form.cmdundo);
     EXPECT_EQ(world.Cards(StockStack), (std::vector<int>{-1, S4}));
-    EXPECT_EQ(world.table.Picture2.FrontMostAt(100, 160), &world.table.cardy[At(S4)]);
+    EXPECT_EQ(world.table.Picture2.FrontMostAt(100, 160), &world.table.cardy[S4]);
 }
 
 TEST(LayoutTest, TheFanOfAColumnAtTwoSizes)
@@ -143,7 +143,7 @@ TEST(LayoutTest, TheFanOfAColumnAtTwoSizes)
     const auto tops = [&] {
         std::vector<Twips> found;
         for (const int card : column) {
-            found.push_back(world.table.cardy[At(card)].Top());
+            found.push_back(world.table.cardy[card].Top());
         }
         return found;
     };
@@ -243,7 +243,7 @@ TEST(TableDescriptionTest, WhatAListenerIsTold)
 {
     GameWorld world(
         {.columns = {{}, {30, H7}}, .stock = {C2, S3}, .piles = {{D0, D1}}, .faceDownInEachColumn = 1});
-    const auto told = [&](int item) { return world.table.cardy[At(item)].AccessibleName(); };
+    const auto told = [&](int item) { return world.table.cardy[item].AccessibleName(); };
     EXPECT_EQ(told(H7), "7 of H, column 2");
     EXPECT_EQ(told(30), "face-down card, column 2");
     EXPECT_EQ(told(FirstColumnBase), "empty column 1");

@@ -70,7 +70,7 @@ TEST(MovesTest, ARunFollowsItsLastCardOntoThePile)
     EXPECT_EQ(world.Cards(FirstPile), (std::vector<int>{O0, O1, O2}));
     EXPECT_TRUE(world.Cards(0).empty());
     EXPECT_EQ(world.TakeSounds(), (Sounds{"_droponsol.wav", "_droponsol.wav", "_droponsol.wav"}));
-    EXPECT_EQ(world.table.Picture2.FrontMostAt(100, 760), &world.table.cardy[At(FirstColumnBase)]);
+    EXPECT_EQ(world.table.Picture2.FrontMostAt(100, 760), &world.table.cardy[FirstColumnBase]);
 }
 
 TEST(MovesTest, AutomoveTurnsUpTestsAndStops)
