@@ -26,9 +26,6 @@ namespace
 /// How long the program's last sound may go on after its windows are gone.
 constexpr std::chrono::milliseconds LastSound{2500};
 
-/// The toolkit's timers keep to their time from here on. Below, some systems take much longer.
-constexpr int ShortestTimer = 20;
-
 /// The window that a box of the system belongs to. Just after another box has closed none may be
 /// active yet.
 QWidget* OwnerOfBox()
@@ -40,11 +37,7 @@ QWidget* OwnerOfBox()
 } // namespace
 
 DesktopPlatform::DesktopPlatform(WavePlayerMaker openPlayer)
-    : sounds_(std::move(openPlayer)), shortWaits_([this](int number) {
-          QMetaObject::invokeMethod(
-              this, [this, number] { FireTimer(number); }, Qt::QueuedConnection);
-      }),
-      random_(std::random_device()())
+    : sounds_(std::move(openPlayer)), random_(std::random_device()())
 {
     InstallAccessibility();
 }
@@ -151,38 +144,28 @@ void DesktopPlatform::RunPendingEvents()
 
 void DesktopPlatform::WaitForEvent()
 {
-    QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+    waits_.WaitForOne();
 }
 
 void DesktopPlatform::StartTimer(Timer& timer, int milliseconds)
 {
     StopTimer(timer);
-    const int number = milliseconds < ShortestTimer
-                           ? shortWaits_.Start(std::chrono::milliseconds(milliseconds))
-                           : startTimer(milliseconds, Qt::PreciseTimer);
-    timers_.emplace(number, &timer);
+    timers_.emplace(startTimer(milliseconds, Qt::PreciseTimer), &timer);
 }
 
 void DesktopPlatform::StopTimer(Timer& timer)
 {
     const auto running = std::ranges::find(timers_, &timer, &decltype(timers_)::value_type::second);
     if (running != timers_.end()) {
-        if (running->first >= 0) {
-            killTimer(running->first);
-        }
-        timers_.erase(running); // the end of a short wait will find nobody
+        killTimer(running->first);
+        timers_.erase(running);
     }
 }
 
 void DesktopPlatform::timerEvent(QTimerEvent* event)
 {
     killTimer(event->timerId());
-    FireTimer(event->timerId());
-}
-
-void DesktopPlatform::FireTimer(int number)
-{
-    const auto running = timers_.find(number);
+    const auto running = timers_.find(event->timerId());
     if (running != timers_.end()) {
         Timer& timer = *running->second;
         timers_.erase(running);

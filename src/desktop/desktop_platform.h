@@ -1,8 +1,8 @@
 // The platform of a real desktop.
 #pragma once
 
+#include "desktop/event_waits.h"
 #include "desktop/form_window.h"
-#include "desktop/short_waits.h"
 #include "desktop/sounds.h"
 #include "runtime/platform.h"
 #include "runtime/timer.h"
@@ -82,13 +82,12 @@ private:
 
     FormWindow& MakeWindow(Form& form);
     template <class Ask> auto InBox(const Ask& ask);
-    void FireTimer(int number);
 
     Desk desk_;
     Sounds sounds_;
     std::unordered_map<const Form*, Window> windows_;
-    std::map<int, Timer*> timers_; ///< by the toolkit's number, or that of a short wait
-    ShortWaits shortWaits_;
+    std::map<int, Timer*> timers_; ///< by the toolkit's number
+    EventWaits waits_;
     std::mt19937_64 random_;
     const Control* frozen_ = nullptr;
     bool busy_ = false;

@@ -3,7 +3,9 @@
 #include "desktop/placing.h"
 #include "desktop/size_talk.h"
 
+#include <QAbstractEventDispatcher>
 #include <QCursor>
+#include <QElapsedTimer>
 
 namespace tessarine
 {
@@ -116,30 +118,35 @@ TEST(PlacingTest, AWindowIsWhollyOnTheScreenOfItsOwner)
     EXPECT_EQ(placing::Beside(box, {300, 0, 1000, 900}, screen), QPoint(600, 431));
 }
 
-TEST_F(WindowTest, AShortWaitNeedsNoTimerOfTheToolkit)
+TEST_F(WindowTest, AWaitEndsWithTheEventThatItHandledAndInsideOneOthersSleep)
 {
-    struct Counter : QObject {
-        bool eventFilter(QObject*, QEvent* event) override
-        {
-            ticks += event->type() == QEvent::Timer ? 1 : 0;
-            return false;
-        }
-        int ticks = 0;
-    } toolkit;
-    platform.installEventFilter(&toolkit);
-    const auto wait = [this](int milliseconds) {
-        Timer timer(platform);
-        timer.OnTick = [&] { timer.SetEnabled(false); };
-        timer.SetInterval(milliseconds);
-        timer.SetEnabled(true);
-        while (timer.Enabled()) {
-            platform.WaitForEvent();
-        }
+    QTimer far; // ends a wait that sleeps on
+    far.start(5000);
+    const auto wait = [this](const std::function<void()>& posted) {
+        QElapsedTimer clock;
+        clock.start();
+        QMetaObject::invokeMethod(qApp, posted, Qt::QueuedConnection);
+        platform.WaitForEvent();
+        return clock.elapsed();
     };
-    wait(3);
-    EXPECT_EQ(toolkit.ticks, 0);
-    wait(20);
-    EXPECT_EQ(toolkit.ticks, 1);
+    EXPECT_LT(wait([] {}), 2000);
+    int sleeps = 0;
+    QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, &far,
+                     [&] { ++sleeps; });
+    EXPECT_LT(wait([] {
+                  QEventLoop loop;
+                  QTimer::singleShot(100, &loop, &QEventLoop::quit);
+                  loop.exec();
+              }),
+              2000);
+    EXPECT_LT(wait([this] {
+                  bool over = false;
+                  for (QTimer::singleShot(100, qApp, [&] { over = true; }); !over;) {
+                      platform.WaitForEvent();
+                  }
+              }),
+              2000);
+    EXPECT_LT(sleeps, 50) << "a loop inside a wait keeps a core busy";
 }
 
 TEST_F(WindowTest, OnlyAWindowThatGetsItsOldSizeBackHoldsIt)
