@@ -1,7 +1,7 @@
 // The core's speed on the headless platform.
 #include "appearance/scheme_file.h"
 #include "support/game_world.h"
-#include "support/random_play.h"
+#include "support/storm.h"
 
 #include <benchmark/benchmark.h>
 
@@ -42,21 +42,14 @@ void ScaleTable(benchmark::State& state)
 }
 BENCHMARK(ScaleTable)->Unit(benchmark::kMicrosecond);
 
-/// 400 gestures, the waits of the slides left out: the clock is virtual.
+/// A storm of 400 gestures, the waits of the slides left out (the clock is virtual), the looks after
+/// each of them counted in.
 void RandomGame(benchmark::State& state)
 {
-    std::uint64_t seed = 0;
+    unsigned seed = 0;
     for (auto _ : state) {
-        state.PauseTiming();
-        GameWorld world(++seed);
-        std::mt19937 random(static_cast<unsigned>(seed));
-        const auto choice = [&random](int bound) {
-            return static_cast<int>(random() % static_cast<unsigned>(bound));
-        };
-        state.ResumeTiming();
-        for (int gesture = 0; gesture < 400; ++gesture) {
-            PlayOneGesture(world, choice);
-        }
+        ++seed;
+        PlayStorm(seed, RandomGestures(seed, 400));
     }
 }
 BENCHMARK(RandomGame)->Unit(benchmark::kMillisecond);

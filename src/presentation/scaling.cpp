@@ -30,6 +30,7 @@ void Scaling::ScaleTable(float factor)
     HideSpareItems();
     ColourBlankItems();
     PlaceStockButtons();
+    DrawPileFaces();
 }
 
 double Scaling::UsableFactor(float factor) const
@@ -112,12 +113,21 @@ void Scaling::LayPiles()
 {
     for (int pile = FirstPile; pile < FirstPile + Piles; ++pile) {
         for (const std::string& entry : table_.Stacks[pile]) {
-            const int card = CardOfEntry(entry);
-            Label& label = table_.cardy[card];
+            Label& label = table_.cardy[CardOfEntry(entry)];
             label.Move(table_.StackLeft[pile], table_.StackTop[pile]);
-            table_.ShowCardFace(card);
             label.SetVisible(true);
             label.BringToFront();
+        }
+    }
+}
+
+/// Comes last: each face lets events run, and whoever looks at the table then, or opens a box over it,
+/// finds it whole.
+void Scaling::DrawPileFaces()
+{
+    for (int pile = FirstPile; pile < FirstPile + Piles; ++pile) {
+        for (std::size_t n = 0; n < table_.Stacks[pile].Count(); ++n) {
+            table_.ShowCardFace(CardOfEntry(table_.Stacks[pile].At(n)));
         }
     }
 }

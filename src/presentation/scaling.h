@@ -36,6 +36,7 @@ private:
     void HideSpareItems();
     void ColourBlankItems();
     void PlaceStockButtons();
+    void DrawPileFaces();
 
     Table& table_;
     std::array<BoxControl, 2>& NextCard_;

@@ -1,5 +1,4 @@
 #include "support/game_world.h"
-#include "support/random_play.h"
 
 #include <gtest/gtest.h>
 
@@ -9,23 +8,6 @@ namespace tessarine::test
 {
 namespace
 {
-
-TEST(WholeGameTest, RandomPlayKeepsTheTableInOrder)
-{
-    for (unsigned seed = 0; seed < 20; ++seed) {
-        GameWorld world(seed);
-        std::mt19937 random(seed);
-        const auto choice = [&random](int bound) {
-            return static_cast<int>(random() % static_cast<unsigned>(bound));
-        };
-        for (int gesture = 0; gesture < 400; ++gesture) {
-            PlayOneGesture(world, choice);
-            ASSERT_EQ(world.Fault(), "") << "seed " << seed << ", gesture " << gesture;
-            ASSERT_TRUE(world.platform.plainMessages.empty());
-        }
-        EXPECT_FALSE(world.platform.HasWork());
-    }
-}
 
 TEST(WholeGameTest, EveryWayToTheWinEndsOnce)
 {
@@ -67,36 +49,6 @@ TEST(WholeGameTest, EveryWayToTheWinEndsOnce)
             w.RightClick(O8);
             byDrag ? w.DragOnto(O9, last) : w.RightClick(O9);
         });
-    }
-}
-
-/// Input at each step of a slide, when the card is between two places.
-TEST(MiddleOfAMoveTest, InputChangesNothing)
-{
-    for (std::size_t step = 0; step < 10; ++step) {
-        GameWorld world({.columns = {{H6}, {H5}, {S3}, {S2}}, .stock = {C1, C2}});
-        const std::vector<int> stock = world.Cards(StockStack);
-        // Each pump inside the move takes the next entry; the waits of the slide are ten of them.
-        world.platform.meanwhile.assign(step, [] {});
-        world.platform.meanwhile.emplace_back([&world] {
-            world.RightClick(S2);
-            world.DragOnto(S2, S3);
-            world.Press(world.form.NextCard[1]);
-            world.Press(world.form.cmdnewgame);
-            world.Press(world.form.cmdundo);
-            world.form.NextCard[1].UserActivates();
-            world.form.FeedResize({7920, 7710});
-        });
-        world.RightClick(H5);
-        EXPECT_EQ(world.Cards(0), (std::vector<int>{H6, H5})) << step;
-        EXPECT_EQ(world.Cards(3), std::vector<int>{S2}) << step;
-        EXPECT_EQ(world.Cards(StockStack), stock) << step;
-        EXPECT_EQ(world.table.cardy[H5].Top(), 1075) << "not rescaled in the middle";
-        EXPECT_TRUE(world.platform.modalCaptions.empty()) << step;
-        // The rescale that fell due comes after the move.
-        world.platform.Advance(200);
-        EXPECT_NEAR(world.form.shared.CardWidth, 405 * 8040.0 / 4080, 1) << step;
-        EXPECT_EQ(world.table.cardy[H5].Top(), world.table.StackTop[0] + world.form.shared.FanStep);
     }
 }
 
@@ -170,38 +122,6 @@ TEST(MiddleOfAMoveTest, WhatTheOptionsApplyInTheMiddleOfALayoutIsWorn)
     world.Press(world.form.cmdopts);
     EXPECT_EQ(world.form.shared.CardFont, "Courier New");
     EXPECT_EQ(world.table.cardy[S0].Font().name, "Courier New");
-}
-
-/// Somebody reads the table whenever events run during a deal: every card has its stack, and every item
-/// an answer.
-TEST(MiddleOfAMoveTest, ADealIsWholeBeforeAnythingElseRuns)
-{
-    GameWorld world;
-    int readings = 0;
-    std::string fault;
-    const auto read = [&] {
-        ++readings;
-        for (int card = 0; card < CardCount; ++card) {
-            int places = 0;
-            for (int stack = 0; stack < StackCount; ++stack) {
-                const std::vector<int> cards = world.Cards(stack);
-                const bool isHere = std::ranges::find(cards, card) != cards.end();
-                places += isHere ? 1 : 0;
-                if (isHere != (world.table.CardStack[card] == stack)) {
-                    fault = "card " + std::to_string(card);
-                }
-            }
-            fault = places == 1 ? fault : "card " + std::to_string(card) + " is not in one place";
-        }
-        for (const Label& item : world.table.cardy) {
-            const std::string name = item.AccessibleName();
-            fault = item.Visible() || name.empty() ? fault : "hidden, yet told: " + name;
-        }
-    };
-    world.platform.meanwhile.assign(25, read);
-    world.form.deal.NewDeal();
-    EXPECT_EQ(fault, "");
-    EXPECT_EQ(readings, 25) << "events run at each face that is drawn";
 }
 
 TEST(MiddleOfAMoveTest, ACloseEndsTheProgramAtOnce)

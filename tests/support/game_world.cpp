@@ -2,7 +2,6 @@
 
 #include "runtime/files.h"
 
-#include <set>
 #include <stdexcept>
 #include <utility>
 
@@ -148,46 +147,6 @@ std::vector<std::string> GameWorld::TakeSounds()
         sound.erase(0, sound.starts_with(folder) ? folder.size() : 0);
     }
     return std::exchange(platform.sounds, {});
-}
-
-std::string GameWorld::Fault() const
-{
-    std::string fault;
-    const auto expect = [&fault](bool holds, const char* what) { fault = holds ? fault : what; };
-    std::multiset<int> seen;
-    for (int stack = 0; stack < StackCount; ++stack) {
-        const std::vector<int> cards = Cards(stack);
-        const bool inPlay = stack < 8 || stack == 10 || stack >= 15;
-        expect(inPlay || cards.empty(), "a spare stack holds something");
-        seen.insert(cards.begin(), cards.end());
-        for (std::size_t i = 0; i < cards.size(); ++i) {
-            const int card = cards[i];
-            if (card < 0) {
-                expect(stack == 10, "the marker stands outside the stock");
-                continue;
-            }
-            expect(table.CardStack[card] == stack, "a card stands in the wrong stack");
-            expect(table.IsFaceUp(card) || (stack < 8 && i + 1 < cards.size()), "a card is face-down");
-            if (stack < 8 && i > 0 && table.IsFaceUp(cards[i - 1])) {
-                expect(table.IsFaceUp(card) && card + 1 == cards[i - 1] && card % 10 < 9,
-                       "a face-up card of a column is followed by one that does not fit");
-            } else if (stack >= 15) {
-                expect(card == cards[0] + static_cast<int>(i) && cards[0] % 10 == 0,
-                       "a finished pile has a gap or two suits");
-                expect(table.cardy[card].Font().underline,
-                       "a card of a finished pile is not underlined");
-            }
-        }
-    }
-    expect(seen.size() == CardCount + 1 && std::set<int>(seen.begin(), seen.end()).size() == seen.size(),
-           "a card or the marker is missing or there twice");
-    // The front-most item at the stock's place is the last entry of the ring.
-    const int last = Cards(StockStack).back();
-    const Control* showing = table.Picture2.FrontMostAt(table.StackLeft[StockStack] + Grip,
-                                                        table.StackTop[StockStack] + Grip);
-    expect(form.hand.Dragging() || showing == &table.cardy[last < 0 ? StockItem : last],
-           "what shows at the stock is not the last entry of the ring");
-    return fault;
 }
 
 } // namespace tessarine::test

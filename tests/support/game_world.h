@@ -3,6 +3,7 @@
 
 #include "form1.h"
 #include "headless/headless_platform.h"
+#include "support/table_check.h"
 
 #include <string>
 #include <vector>
@@ -51,8 +52,8 @@ public:
     /// By their bare names, if they lie beside the program.
     std::vector<std::string> TakeSounds();
 
-    /// What is wrong with the state of the table between two events; empty if nothing is.
-    std::string Fault() const;
+    /// What is wrong with the table between two events; empty if nothing is.
+    std::string Fault() { return FaultOfTable(form); }
 };
 
 /// The user presses the button with this caption on the next message box, whose text is noted.

@@ -1,0 +1,272 @@
+#include "headless/random_user.h"
+
+#include "runtime/controls.h"
+
+#include <algorithm>
+#include <array>
+#include <bit>
+
+namespace tessarine
+{
+namespace
+{
+
+enum class Kind {
+    Drag,
+    RightClick,
+    Click,
+    Press,
+    Move,
+    Release,
+    Tool,
+    Resize,
+    Refuse,
+    Wait,
+    Close,
+    Front,
+    Key,
+    Ask,
+    Answer,
+    Lost
+};
+
+struct Share {
+    Kind kind;
+    unsigned parts; ///< of 64
+};
+constexpr std::array<Share, 16> Shares = {{{Kind::Drag, 14},
+                                           {Kind::RightClick, 10},
+                                           {Kind::Click, 10},
+                                           {Kind::Press, 4},
+                                           {Kind::Move, 4},
+                                           {Kind::Release, 4},
+                                           {Kind::Tool, 2},
+                                           {Kind::Resize, 2},
+                                           {Kind::Refuse, 1},
+                                           {Kind::Wait, 3},
+                                           {Kind::Close, 1},
+                                           {Kind::Front, 2},
+                                           {Kind::Key, 2},
+                                           {Kind::Ask, 2},
+                                           {Kind::Answer, 2},
+                                           {Kind::Lost, 1}}};
+
+Kind KindOf(const Gesture& gesture)
+{
+    unsigned place = gesture.kind % 64U;
+    for (const Share& share : Shares) {
+        if (place < share.parts) {
+            return share.kind;
+        }
+        place -= share.parts;
+    }
+    return Kind::Move;
+}
+
+template <class Visit> void ForEachShown(const Container& on, const Visit& visit)
+{
+    for (Control* control : on.Children()) {
+        if (!control->Visible()) {
+            continue;
+        }
+        visit(*control);
+        if (const auto* box = dynamic_cast<const Container*>(control)) {
+            ForEachShown(*box, visit);
+        }
+    }
+}
+
+/// A reader goes through all that there is.
+void AskForNames(const Forms& forms)
+{
+    for (const Form* form : forms.Loaded()) {
+        ForEachShown(*form, [](const Control& control) { static_cast<void>(control.AccessibleName()); });
+    }
+}
+
+/// A point of the control, or a little beside it.
+Point PointOn(const Control& control, const Gesture& gesture)
+{
+    const Point corner = control.PlaceOnForm();
+    return {corner.x + control.Width() * (gesture.across / 60000.0 - 0.04),
+            corner.y + control.Height() * (gesture.down / 60000.0 - 0.04)};
+}
+
+Size SizeOf(const Gesture& gesture)
+{
+    constexpr int pixels = 1024;
+    return {1.0 * TwipsPerPixel * (1 + gesture.across % pixels),
+            1.0 * TwipsPerPixel * (1 + gesture.down % pixels)};
+}
+
+/// One of the toolkit's own widgets, which gets the mouse before the form does.
+bool IsToolkits(const Control* control)
+{
+    return control != nullptr && control->Kind() >= ControlKind::PushButton;
+}
+
+} // namespace
+
+// --- the hands ---
+
+void HeadlessHands::Press(Form& form, Point at, int button, int shift)
+{
+    if (form.Captured() != nullptr || !IsToolkits(form.FrontMostAt(at.x, at.y))) {
+        platform_.Press(form, at.x, at.y, button, shift);
+    }
+}
+
+void HeadlessHands::Release(Form& form, Point at, int button, int detail)
+{
+    Control* const control = form.FrontMostAt(at.x, at.y);
+    if (form.Captured() != nullptr || !IsToolkits(control)) {
+        platform_.Release(form, at.x, at.y, button);
+        return;
+    }
+    const auto choice = static_cast<std::size_t>(detail);
+    if (auto* list = dynamic_cast<ListBox*>(control)) {
+        const std::size_t entry = choice % (list->Items().Count() + 1);
+        entry == 0 ? list->UserReleasesOnNothing(button) : list->UserPicks(entry - 1, button);
+    } else if (auto* bar = dynamic_cast<ScrollBar*>(control)) {
+        bar->UserSets(bar->Min() + detail * (bar->Max() - bar->Min()) / 256);
+    } else if (auto* page = dynamic_cast<Browser*>(control)) {
+        page->UserFollows({page->Location().path, std::string(choice % 3, 'a')});
+    } else {
+        platform_.Click(*control, button);
+    }
+    Move(form, at);
+}
+
+void HeadlessHands::Refuse(Form& form)
+{
+    if (platform_.refusesSize.erase(&form) == 0) {
+        platform_.refusesSize.insert(&form);
+    }
+}
+
+void HeadlessHands::Answer(int detail)
+{
+    static constexpr std::array names = {"New", "new", "default", " ;.col", "\xC3\xA4"};
+    static constexpr std::array files = {"savedgame;01", "tempgame.txt", "all.col", "none"};
+    const auto any = static_cast<std::size_t>(detail);
+    platform_.plainAnswers = {detail % 2 == 0, detail % 3 == 0};
+    platform_.typedAnswers = {names[any % names.size()]};
+    const std::string folder = platform_.fileDialogs.empty() ? "" : platform_.fileDialogs.back().folder;
+    platform_.chosenFiles = {folder + files[any % files.size()]};
+}
+
+// --- the user ---
+
+/// The form that takes input, as a rule, or any that shows.
+Form& RandomUser::Target(const Gesture& gesture) const
+{
+    const Forms& forms = main_.AllForms();
+    std::vector<Form*> shown;
+    std::ranges::copy_if(forms.Loaded(), std::back_inserter(shown), &Form::IsShown);
+    if (gesture.window % 4 != 0 || shown.empty()) {
+        return forms.Modal() != nullptr && forms.Modal()->IsShown() ? *forms.Modal() : main_;
+    }
+    return *shown[gesture.window / 4U % shown.size()];
+}
+
+Control& RandomUser::Aim(Form& form, unsigned which) const
+{
+    if (&form == &main_ && which % 2 == 0 && Favourite) {
+        return Favourite(which / 2);
+    }
+    std::vector<Control*> shown{&form};
+    ForEachShown(form, [&shown](Control& control) { shown.push_back(&control); });
+    return *shown[which % shown.size()];
+}
+
+void RandomUser::Drag(Form& form, const Control& control, Point at, const Gesture& gesture)
+{
+    const Point from = control.PlaceOnForm();
+    const Point onto = Aim(form, gesture.detail).PlaceOnForm();
+    const Point to{onto.x + at.x - from.x, onto.y + at.y - from.y};
+    hands_.Press(form, at, LeftButton, 0);
+    hands_.Move(form, {(at.x + to.x) / 2, (at.y + to.y) / 2});
+    hands_.Move(form, to);
+    hands_.Release(form, to, LeftButton, gesture.detail);
+}
+
+void RandomUser::Do(const Gesture& gesture)
+{
+    static constexpr std::array buttons = {LeftButton, RightButton, MiddleButton};
+    Form& form = Target(gesture);
+    Control& control = Aim(form, gesture.control);
+    const Point at = PointOn(control, gesture);
+    const int button = buttons[gesture.detail % buttons.size()];
+    const auto click = [&](int which) {
+        hands_.Press(form, at, which, 0);
+        if (form.IsShown()) {
+            hands_.Release(form, at, which, gesture.detail);
+        }
+    };
+    switch (KindOf(gesture)) {
+    case Kind::Drag:
+        Drag(form, control, at, gesture);
+        break;
+    case Kind::RightClick:
+        click(RightButton);
+        break;
+    case Kind::Click:
+        click(LeftButton);
+        break;
+    case Kind::Press:
+        hands_.Press(form, at, button, gesture.detail < 200 ? 0 : gesture.detail % 8);
+        break;
+    case Kind::Move:
+        hands_.Move(form, at);
+        break;
+    case Kind::Release:
+        hands_.Release(form, at, button, gesture.detail);
+        break;
+    case Kind::Tool: // a tool can press what the keyboard could
+        if (control.TakesFocus()) {
+            control.UserActivates();
+        }
+        break;
+    case Kind::Resize:
+        if (form.Sizable) {
+            hands_.Resize(form, SizeOf(gesture));
+        }
+        break;
+    case Kind::Refuse:
+        hands_.Refuse(form);
+        break;
+    case Kind::Wait:
+        hands_.Wait(gesture.detail);
+        break;
+    case Kind::Close: // of the main form it is the end, and rare
+        if (&form != &main_ || gesture.detail % 64 == 0) {
+            hands_.Close(form);
+        }
+        break;
+    case Kind::Front:
+        hands_.ComeToFront(form);
+        break;
+    case Kind::Key:
+        hands_.Key(form, gesture.detail % 2 == 0 ? DialogKey::Escape : DialogKey::Enter);
+        break;
+    case Kind::Ask:
+        AskForNames(form.AllForms());
+        break;
+    case Kind::Answer:
+        hands_.Answer(gesture.detail);
+        break;
+    case Kind::Lost:
+        form.FeedMouseLost();
+        break;
+    }
+}
+
+std::vector<Gesture> RandomGestures(unsigned seed, std::size_t count)
+{
+    std::mt19937_64 random(seed);
+    std::vector<Gesture> gestures(count);
+    std::ranges::generate(gestures, [&random] { return std::bit_cast<Gesture>(random()); });
+    return gestures;
+}
+
+} // namespace tessarine
