@@ -14,77 +14,6 @@ namespace
 
 using Sounds = std::vector<std::string>;
 
-TEST(MovesTest, ACardOrARunGoesOnTheNextHigherOfItsSuit)
-{
-    GameWorld world({.columns = {{H6}, {H5, H4, H3}, {S2}}});
-    world.DragOnto(H5, H6);
-    EXPECT_EQ(world.Cards(0), (std::vector<int>{H6, H5, H4, H3}));
-    for (int row = 1; row <= 3; ++row) {
-        EXPECT_EQ(world.Place(H6 - row), (Point{40, 700 + 375.0 * row}));
-    }
-    EXPECT_EQ(world.TakeSounds(), Sounds{"_droponstack.wav"});
-
-    world.DragOnto(H3, FirstColumnBase + 5);
-    EXPECT_EQ(world.Cards(5), std::vector<int>{H3});
-    EXPECT_EQ(world.Place(H3), (Point{2440, 700}));
-    EXPECT_EQ(world.TakeSounds(), Sounds{"_dropone.wav"});
-}
-
-TEST(MovesTest, IllegalDropsGoHomeWithASoundAndTheOwnColumnIsSilent)
-{
-    GameWorld world({.columns = {{H6}, {S5, S4}, {S7}}});
-    world.DragOnto(S5, H6);            // wrong suit
-    world.DragOnto(S5, S7);            // not one lower
-    world.DragToPoint(S5, 4100, 2000); // over nothing
-    EXPECT_EQ(world.TakeSounds(), (Sounds{"_error.wav", "_error.wav", "_error.wav"}));
-    world.DragToPoint(S5, 560, 3000); // its own column
-    world.DragToPoint(S5, 100, 120);  // the stock's place
-    EXPECT_EQ(world.TakeSounds(), Sounds{});
-    EXPECT_EQ(world.Cards(0), std::vector<int>{H6});
-    EXPECT_EQ(world.Cards(1), (std::vector<int>{S5, S4}));
-    EXPECT_EQ(world.Place(S5), (Point{520, 700}));
-    EXPECT_EQ(world.Place(S4), (Point{520, 1075}));
-}
-
-TEST(MovesTest, FinishedPilesTakeASuitFromZeroUp)
-{
-    GameWorld world({.columns = {{D1}, {D0}, {C0}}});
-    world.DragOnto(D1, FirstPileBase + 3);
-    EXPECT_EQ(world.TakeSounds(), Sounds{"_error.wav"});
-    world.DragOnto(D0, FirstPileBase + 3);
-    world.DragOnto(C0, FirstPileBase + 3);
-    EXPECT_EQ(world.TakeSounds(), (Sounds{"_droponsol.wav", "_error.wav"}));
-    world.DragOnto(D1, FirstPileBase + 3);
-    EXPECT_TRUE(world.table.cardy[D1].Font().underline);
-    // What lies there stays there.
-    world.DragOnto(D1, FirstColumnBase + 6);
-    world.RightClick(D1);
-    EXPECT_EQ(world.TakeSounds(), (Sounds{"_droponsol.wav", "_error.wav"}));
-    EXPECT_EQ(world.Cards(FirstPile + 3), (std::vector<int>{D0, D1}));
-}
-
-TEST(MovesTest, ARunFollowsItsLastCardOntoThePile)
-{
-    GameWorld world({.columns = {{O2, O1, O0}, {S9}}});
-    world.DragOnto(O2, FirstPileBase);
-    EXPECT_EQ(world.Cards(FirstPile), (std::vector<int>{O0, O1, O2}));
-    EXPECT_TRUE(world.Cards(0).empty());
-    EXPECT_EQ(world.TakeSounds(), (Sounds{"_droponsol.wav", "_droponsol.wav", "_droponsol.wav"}));
-    EXPECT_EQ(world.table.Picture2.FrontMostAt(100, 760), &world.table.cardy[FirstColumnBase]);
-}
-
-TEST(MovesTest, AutomoveTurnsUpTestsAndStops)
-{
-    // Face-down but for the last: each follower is turned up before it is tested.
-    GameWorld world(
-        {.columns = {{H9, S3, S2, S1}}, .stock = {S4}, .piles = {{S0}}, .faceDownInEachColumn = 3});
-    world.RightClick(S1);
-    EXPECT_EQ(world.Cards(FirstPile), (std::vector<int>{S0, S1, S2, S3}));
-    EXPECT_EQ(world.Cards(0), std::vector<int>{H9});
-    EXPECT_TRUE(world.table.IsFaceUp(H9));
-    EXPECT_EQ(world.Cards(StockStack).back(), S4) << "the stock takes no part";
-}
-
 TEST(MovesTest, ASlideTakesTenStepsToItsPlace)
 {
     GameWorld world({.columns = {{H6}, {H5}, {S7, S1}}});
@@ -96,29 +25,6 @@ TEST(MovesTest, ASlideTakesTenStepsToItsPlace)
     world.RightClick(S1);
     EXPECT_EQ(world.platform.milliseconds - start, 30);
     EXPECT_EQ(world.Place(S1), (Point{520, 700}));
-}
-
-TEST(MovesTest, RightClickPrefersPilesThenFittingColumnsThenEmptyOnes)
-{
-    GameWorld world({.columns = {{}, {H2}, {H1}, {S3}}, .stock = {C8, C9}, .piles = {{}, {H0}}});
-    world.RightClick(H1);
-    EXPECT_EQ(world.Cards(FirstPile + 1), (std::vector<int>{H0, H1}));
-    world.RightClick(S3); // alone in its column: no move to another empty one
-    EXPECT_EQ(world.TakeSounds().back(), "_error.wav");
-    world.RightClick(C9);
-    world.RightClick(C8);
-    EXPECT_EQ(world.Cards(0), (std::vector<int>{C9, C8}));
-    world.ForgetSounds();
-    world.RightClick(C9); // covered
-    world.RightClick(FirstColumnBase + 5);
-    world.RightClick(StockItem);
-    EXPECT_EQ(world.TakeSounds(), (Sounds{"_error.wav", "_error.wav"}));
-
-    world.Arrange({.columns = {{O1, O0}, {D0}, {C5}}});
-    world.RightClick(O0); // to the first empty pile, and the next
-    world.RightClick(D0);
-    EXPECT_EQ(world.Cards(FirstPile), (std::vector<int>{O0, O1}));
-    EXPECT_EQ(world.Cards(FirstPile + 1), std::vector<int>{D0});
 }
 
 TEST(GesturesTest, OnlyAPlainLeftPressOnAPlayableCardPicksUp)
@@ -138,38 +44,6 @@ TEST(GesturesTest, OnlyAPlainLeftPressOnAPlayableCardPicksUp)
     EXPECT_FALSE(picksUp(H6)) << "face-down";
     EXPECT_FALSE(picksUp(FirstColumnBase + 1));
     EXPECT_FALSE(world.form.hand.Dragging());
-}
-
-/// Left and another button over one drag, in every order of their releases: the drag alone counts.
-TEST(GesturesTest, ASecondButtonDuringADragIsIgnoredWithItsRelease)
-{
-    for (const int button : {RightButton, MiddleButton}) {
-        for (const char* const order : {"2L+-", "L2+-", "L+2-", "L2-+", "2L-+"}) {
-            for (const bool legal : {true, false}) {
-                const int higher = legal ? H6 : H7;
-                GameWorld world({.columns = {{higher}, {S9, H5}}, .faceDownInEachColumn = 1});
-                world.table.ShowCardFace(higher);
-                const Point at = world.Corner(H5);
-                Point pointer{at.x + 60, at.y + 60};
-                for (const char* step = order; *step != 0; ++step) {
-                    if (*step == 'L') {
-                        world.platform.Press(world.form, pointer.x, pointer.y);
-                        pointer = {at.x - 420, at.y + 600};
-                        world.platform.MoveMouse(world.form, pointer.x, pointer.y);
-                    } else if (*step == '2') {
-                        world.platform.Press(world.form, pointer.x, pointer.y, button);
-                    } else {
-                        world.platform.Release(world.form, pointer.x, pointer.y,
-                                               *step == '-' ? LeftButton : button);
-                    }
-                }
-                const std::string told = std::string(order) + (legal ? " legal" : " illegal");
-                EXPECT_EQ(world.TakeSounds(), Sounds{legal ? "_dropone.wav" : "_error.wav"}) << told;
-                EXPECT_EQ(world.Cards(legal ? 0 : 1).back(), H5) << told;
-                EXPECT_EQ(world.Place(H5), (legal ? Point{40, 1075} : Point{520, 825})) << told;
-            }
-        }
-    }
 }
 
 /// Whatever takes the mouse away in the middle of a drag ends it as a whole: cards home, silent, and the
@@ -245,44 +119,6 @@ TEST(GesturesTest, ZonesOfStockPilesAndColumns)
     EXPECT_EQ(over(520 - 100, 5000), FirstColumnBase + 1);
     EXPECT_EQ(over(520 - 101 + 445, 5000), FirstColumnBase + 1);
     EXPECT_EQ(over(520 - 101 + 446, 5000), NoCard);
-}
-
-TEST(UndoTest, TakesBackStockMovesNewestFirst)
-{
-    GameWorld world({.columns = {{S9}}, .stock = {D0, C8, C9}});
-    world.DragOnto(C9, FirstColumnBase + 3);
-    world.DragOnto(world.Cards(StockStack).back(), FirstPileBase + 2); // the 0 of D
-    ASSERT_EQ(world.Cards(FirstPile + 2), std::vector<int>{D0});
-    world.Press(world.form.NextCard[1]);
-    world.ForgetSounds();
-    world.Press(world.form.cmdundo);
-    EXPECT_EQ(world.Cards(StockStack).back(), D0);
-    EXPECT_FALSE(world.table.cardy[D0].Font().underline);
-    EXPECT_TRUE(world.Cards(FirstPile + 2).empty());
-    world.Press(world.form.cmdundo);
-    EXPECT_EQ(world.Cards(StockStack).back(), C9);
-    EXPECT_TRUE(world.Cards(3).empty());
-    world.Press(world.form.cmdundo); // nothing is left
-    EXPECT_EQ(world.TakeSounds(), (Sounds{"_undo.wav", "_undo.wav"}));
-}
-
-TEST(UndoTest, WhatClearsTheHistory)
-{
-    const std::vector<std::pair<std::function<void(GameWorld&)>, bool>> gestures = {
-        {[](GameWorld& w) { w.DragToPoint(S9, 40, 1000); }, true},   // over its own column
-        {[](GameWorld& w) { w.DragOnto(S9, FirstPileBase); }, true}, // illegal, on a pile
-        {[](GameWorld& w) { w.DragToPoint(S9, 4200, 900); }, false}, // over nothing
-        {[](GameWorld& w) { w.DragToPoint(S9, 60, 110); }, false},   // the stock's place
-        {[](GameWorld& w) { w.RightClick(S9); }, false},             // finds no place
-        {[](GameWorld& w) { w.RightClick(H3); }, true},              // moves
-        {[](GameWorld& w) { w.DragOnto(C8, C9); }, false}};          // from the stock
-    for (std::size_t i = 0; i < gestures.size(); ++i) {
-        GameWorld world({.columns = {{S9}, {H4}, {H3}}, .stock = {C8, C7, C9}});
-        world.DragOnto(C9, FirstColumnBase + 6);
-        ASSERT_EQ(world.form.undo.Count(), 1U);
-        gestures[i].first(world);
-        EXPECT_EQ(world.form.undo.Count() == 0, gestures[i].second) << i;
-    }
 }
 
 } // namespace

@@ -1,0 +1,310 @@
+// The rules of the game a second time, as simply as can be: whatever a hand does, the table must show
+// what these make of it.
+#include "support/game_world.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <numeric>
+#include <random>
+#include <sstream>
+
+namespace tessarine::test
+{
+namespace
+{
+
+using Row = std::vector<int>;
+constexpr int Gap = -1;     ///< in the ring
+constexpr int Nowhere = 14; ///< a stack that nothing is ever in
+
+/// A game on a table of size 1, and the hand that plays it.
+struct Model {
+    explicit Model(unsigned seed) : world(seed), random(seed) { Deal(); }
+
+    GameWorld world;
+    std::mt19937 random;
+    Numbered<Row, 20> stacks;                 ///< columns 0 to 7, the ring 10, piles 15 to 19
+    Numbered<int, 20> closed;                 ///< how many cards of a column are face-down
+    std::vector<std::pair<int, int>> history; ///< where cards of the stock went
+    std::vector<std::string> sounds;
+    std::string gap; ///< what the ring's gap says
+    bool isWon = false;
+
+    void Deal()
+    {
+        std::istringstream order(world.Order());
+        stacks = {};
+        stacks[10] = {Gap};
+        for (int card = 0, column = 1; order >> card; column += std::ssize(stacks[column]) == column) {
+            stacks[column < 8 ? column : 10].push_back(card);
+            closed[column] = column < 8 ? column - 1 : 0;
+        }
+        history.clear();
+        gap = "...";
+    }
+    int StackOf(int card)
+    {
+        const auto holds = [card](const Row& row) { return std::ranges::count(row, card) > 0; };
+        return static_cast<int>(std::ranges::find_if(stacks, holds) - stacks.begin());
+    }
+    bool Fits(int card, int to)
+    {
+        const Row& on = stacks[to];
+        return on.empty()
+                   ? to < 8 || (to >= 15 && card % 10 == 0)
+                   : to != 10 && card == on.back() + (to < 8 ? -1 : 1) && card / 10 == on.back() / 10;
+    }
+    void Rotate(bool forward)
+    {
+        Row& ring = stacks[10];
+        gap = ring.size() == 1 ? "X" : gap;
+        std::rotate(ring.begin(), forward ? ring.end() - 1 : ring.begin() + 1, ring.end());
+    }
+    void Move(int from, int count, int to)
+    {
+        Row& source = stacks[from];
+        stacks[to].insert(stacks[to].end(), source.end() - count, source.end());
+        source.erase(source.end() - count, source.end());
+        sounds.emplace_back(to >= 15     ? "_droponsol.wav"
+                            : count == 1 ? "_dropone.wav"
+                                         : "_droponstack.wav");
+        if (from == 10) {
+            history.emplace_back(to, stacks[to].back());
+            Rotate(true);
+        }
+        closed[from] = std::clamp(static_cast<int>(source.size()) - 1, 0, closed[from]);
+    }
+    void AfterMove(int from, int to)
+    {
+        while (from < 8 && to >= 15 && !stacks[from].empty() && Fits(stacks[from].back(), to)) {
+            Move(from, 1, to);
+        }
+        if (from < 8) {
+            history.clear();
+        }
+        if (std::accumulate(stacks.begin() + 15, stacks.end(), 0UL,
+                            [](auto sum, auto& row) { return sum + row.size(); }) == 50) {
+            sounds.insert(sounds.end(), {"_done.wav", "_shuf.wav"});
+            world.platform.AnswerModal("Ok");
+            isWon = true;
+        }
+    }
+    void Drop(int from, int count, int to)
+    {
+        const Row& source = stacks[from];
+        if (to == 10) {
+            return; // the stock takes nothing back
+        }
+        if (Fits(to >= 15 ? source.back() : *(source.end() - count), to)) {
+            Move(from, to >= 15 ? 1 : count, to);
+        } else if (to != from) {
+            sounds.emplace_back("_error.wav");
+        }
+        if (to != Nowhere) {
+            AfterMove(from, to);
+        }
+    }
+    void RightClick(int item)
+    {
+        const int from = item < 50 ? StackOf(item) : item == 50 ? 10 : Nowhere;
+        const bool isExposed = from < Nowhere && stacks[from].back() == item;
+        if (from == 10 && stacks[10].back() == Gap) {
+            return;
+        }
+        for (const int kind : {15, 0, 1}) { // the piles, columns with cards, empty columns
+            for (int to = kind == 15 ? 15 : 0; isExposed && to < (kind == 15 ? 20 : 8); ++to) {
+                const bool isKind = kind == 15 || (kind == 1) == stacks[to].empty();
+                const bool isOfUse = kind != 1 || from == 10 || stacks[from].size() > 1;
+                if (isKind && isOfUse && Fits(item, to)) {
+                    Move(from, 1, to);
+                    if (from == 10) {
+                        Rotate(true);
+                    }
+                    return AfterMove(from, to);
+                }
+            }
+        }
+        sounds.emplace_back("_error.wav");
+    }
+    static int LeftOf(int stack)
+    {
+        return stack >= 15 ? 1632 + 442 * (stack - 15) : stack < 8 ? 40 + 480 * stack : 40;
+    }
+    /// The stack whose zone the corner of a dragged card is in.
+    static int Under(Point corner)
+    {
+        for (const int stack : {10, 15, 16, 17, 18, 19, 0, 1, 2, 3, 4, 5, 6, 7}) {
+            const Twips across = corner.x - LeftOf(stack) + (stack < 8 ? 101 : 202);
+            const bool isIn = across > 0 && across < (stack < 8 ? 445.5 : 607.5);
+            if (isIn && (stack < 8 || (corner.y > -88 && corner.y < 474.5))) {
+                return stack;
+            }
+        }
+        return Nowhere;
+    }
+
+    int Choose(int bound) { return static_cast<int>(random() % static_cast<unsigned>(bound)); }
+    template <class Choices> auto AnyOf(const Choices& choices)
+    {
+        return choices.at(random() % choices.size());
+    }
+    /// A card that can be touched, or a base that no card covers.
+    int AnyItemInSight()
+    {
+        const int stack = AnyOf(Row{0, 1, 2, 3, 4, 5, 6, 7, 10, 15, 16, 17, 18, 19});
+        const Row& row = stacks[stack];
+        return row.empty() || row.back() == Gap ? stack + (stack < 8 ? 60 : 40)
+               : stack < 8                      ? AnyOf(row)
+                                                : row.back();
+    }
+    /// A card and a stack that takes it, a stack with cards rather than an empty one.
+    std::pair<int, int> AnyMove()
+    {
+        std::vector<std::pair<int, int>> moves = {{AnyItemInSight(), Choose(20)}};
+        for (int from = 0; from <= 10; ++from) {
+            const Row& row = stacks[from];
+            for (int place = from == 10 ? static_cast<int>(row.size()) - 1 : closed[from];
+                 place < std::ssize(row); ++place) {
+                const int card = *(row.begin() + place);
+                for (int to = 0; to < 20; ++to) {
+                    const bool isOfUse = card != Gap && (to >= 15 ? card == row.back()
+                                                                  : place > 0 || !stacks[to].empty());
+                    moves.insert(moves.end(),
+                                 !isOfUse || !Fits(card, to) ? 0
+                                 : stacks[to].empty()        ? 1
+                                                             : 5,
+                                 {card, to});
+                }
+            }
+        }
+        return AnyOf(moves);
+    }
+    /// What the user can begin in the middle of a move, and begins nothing.
+    void Disturb()
+    {
+        Form1& form = world.form;
+        const std::array<Control*, 4> buttons = {&form.NextCard[1], &form.cmdundo, &form.cmdnewgame,
+                                                 &form.cmdabout};
+        switch (Control& button = *AnyOf(buttons); Choose(4)) {
+        case 0:
+            return world.RightClick(AnyItemInSight());
+        case 1:
+            return world.DragOnto(AnyItemInSight(), Choose(70));
+        case 2:
+            return world.Press(button);
+        default:
+            return button.UserActivates();
+        }
+    }
+    /// Brings the item's corner there and lets go, with another button beside the left one or the mouse
+    /// taken away at times.
+    void Drag(int item, Twips left, Twips top)
+    {
+        const int from = item < 50 ? StackOf(item) : Nowhere;
+        const Row& row = stacks[from];
+        const auto place = static_cast<int>(std::ranges::find(row, item) - row.begin());
+        const int count = static_cast<int>(row.size()) - place;
+        const bool picksUp = from < Nowhere && place >= closed[from];
+        const Point home = world.Place(item);
+        const Point corner = world.Corner(item);
+        const Point end{corner.x + left - home.x + 60, corner.y + top - home.y + 60};
+        const int other = picksUp ? AnyOf(Row{RightButton, MiddleButton, 0, 0}) : 0;
+        world.platform.Press(world.form, corner.x + 60, corner.y + 60);
+        if (other != 0) {
+            world.platform.Press(world.form, corner.x + 60, corner.y + 60, other);
+        }
+        world.platform.MoveMouse(world.form, end.x, end.y);
+        const Point head = world.Place(item);
+        if (!picksUp) {
+            EXPECT_EQ(head, home);
+        } else if (Choose(10) == 0) {
+            Choose(2) == 0 ? world.form.FeedMouseLost() : world.form.cmdabout.UserActivates();
+            world.ForgetSounds();
+        } else {
+            EXPECT_TRUE(std::abs(head.x - left) < 15 && std::abs(head.y - top) < 15)
+                << "it follows the hand";
+            for (int i = 0; i < count; ++i) {
+                EXPECT_EQ(world.Place(*(row.begin() + place + i)), (Point{head.x, head.y + 375.0 * i}));
+            }
+            Drop(from, count, Under(head));
+        }
+        const bool otherFirst = Choose(2) == 0;
+        world.platform.Release(world.form, end.x, end.y, otherFirst ? other : LeftButton);
+        world.platform.Release(world.form, end.x, end.y, otherFirst ? LeftButton : other);
+    }
+    void PlayOneGesture()
+    {
+        const int kind = Choose(12);
+        if (kind < 2) {
+            sounds.emplace_back("_nextcard.wav");
+            const bool forward = Choose(4) > 0;
+            Rotate(forward);
+            world.Press(world.form.NextCard[forward ? 1 : 0]);
+        } else if (kind == 2) {
+            if (!history.empty()) {
+                sounds.emplace_back("_undo.wav");
+                stacks[10].push_back(history.back().second);
+                stacks[history.back().first].pop_back();
+                history.pop_back();
+            }
+            world.Press(world.form.cmdundo);
+        } else if (kind < 6) {
+            const int item = AnyItemInSight();
+            RightClick(item);
+            world.RightClick(item);
+        } else if (kind < 8) {
+            Drag(AnyItemInSight(), Choose(5000) - 400, Choose(4000) - 200);
+        } else {
+            const auto [card, to] = AnyMove();
+            Drag(card, LeftOf(to), to < 15 ? 600 + Choose(2000) : 100);
+        }
+    }
+    void Compare()
+    {
+        EXPECT_EQ(world.TakeSounds(), std::exchange(sounds, {}));
+        for (int stack = 0; stack < 20; ++stack) {
+            EXPECT_EQ(world.Cards(stack), stacks[stack]) << stack;
+            Twips top = stack < 8 ? 700 : 100;
+            for (int place = 0; const int card : stacks[stack]) {
+                const bool isOpen = stack >= 8 || place++ >= closed[stack];
+                if (card != Gap) {
+                    const Label& shown = world.table.cardy[card];
+                    EXPECT_EQ(world.Place(card), (Point{static_cast<Twips>(LeftOf(stack)), top}))
+                        << card;
+                    EXPECT_EQ(shown.Caption(), isOpen ? std::to_string(card % 10) : "") << card;
+                    EXPECT_EQ(shown.Font().underline, stack >= 15) << card;
+                }
+                top += stack >= 8 ? 0 : isOpen ? 375 : 125;
+            }
+        }
+        const int showing = stacks[10].back() == Gap ? 50 : stacks[10].back();
+        EXPECT_EQ(world.table.Picture2.FrontMostAt(100, 160), &world.table.cardy[showing]);
+        EXPECT_EQ(world.table.cardy[50].Caption(), gap);
+        EXPECT_EQ(world.Fault(), "");
+    }
+};
+
+TEST(ModelTest, WhateverAHandDoesTheTableShowsWhatTheRulesMakeOfIt)
+{
+    int wins = 0;
+    for (unsigned seed = 0; seed < 40; ++seed) {
+        Model model(seed);
+        for (int gesture = 0; gesture < 700 && !HasFailure(); ++gesture) {
+            SCOPED_TRACE("seed " + std::to_string(seed) + ", gesture " + std::to_string(gesture));
+            model.world.platform.meanwhile.assign(static_cast<std::size_t>(model.Choose(30)), [] {});
+            model.world.platform.meanwhile.emplace_back([&model] { model.Disturb(); });
+            model.PlayOneGesture();
+            model.world.platform.meanwhile.clear();
+            if (std::exchange(model.isWon, false)) {
+                ++wins;
+                model.Deal();
+            }
+            model.Compare();
+        }
+    }
+    EXPECT_GT(wins, 5) << "the games must come far enough";
+}
+
+} // namespace
+} // namespace tessarine::test
