@@ -103,19 +103,6 @@ TEST_F(PaintingTest, TheBaseOfAColumnIsSunk)
     EXPECT_GT(std::min(lightness(13, 24), lightness(26, 12)), lightness(13, 12));
 }
 
-TEST_F(PaintingTest, WhatIsInFrontHidesWhatIsBehind)
-{
-    Label& back = AddLabel(300, 300, PaletteColour(1));
-    const Label& front = AddLabel(450, 450, PaletteColour(4));
-    Show({&surface});
-    const auto shownAtBoth = [this] { return Shown(surface, 1).pixel(43, 40); };
-    EXPECT_EQ(shownAtBoth(), Pixel(front.BackColor()));
-    back.BringToFront();
-    EXPECT_EQ(shownAtBoth(), Pixel(back.BackColor()));
-    back.SetVisible(false);
-    EXPECT_EQ(shownAtBoth(), Pixel(front.BackColor()));
-}
-
 TEST_F(PaintingTest, ADigitIsNeverCutOff)
 {
     Label& high = AddLabel(300, 300, Black);

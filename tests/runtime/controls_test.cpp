@@ -55,22 +55,6 @@ TEST_F(Controls, OnlyAChangeIsNotedAndEachControlOnce)
     EXPECT_EQ(platform.paintedControls, 3);
 }
 
-TEST_F(Controls, AChangeHandlerRunsInsideTheStatementThatChangesTheValue)
-{
-    ScrollBar bar(ScrollBar::Direction::Down);
-    bar.SetRange(255, 0, 1, 16); // upside down
-    form.Add(bar);
-    std::string record;
-    bar.OnChange = [&] { record += NumberText(bar.Value()); };
-    bar.SetValue(100);
-    record += ',';
-    bar.SetValue(100);
-    bar.SetValue(300);
-    bar.SetEnabled(false);
-    bar.UserSets(1);
-    EXPECT_EQ(record, " 100, 255");
-}
-
 TEST_F(Controls, WhatStandsOnAControlThatIsNotEnabledTakesNoInput)
 {
     Frame frame;

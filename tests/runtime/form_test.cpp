@@ -54,28 +54,6 @@ TEST_F(FormLife, AFormIsLoadedOnceAndAfreshAfterAnUnload)
     EXPECT_EQ(platform.paints, 1);
 }
 
-TEST_F(FormLife, TheOwnerOfAModalFormIsNotActivatedAnewAndMayGo)
-{
-    form.Show();
-    form.Take();
-    platform.OnNextModal([&](Form& dialog) {
-        form.FeedActivation();
-        form.FeedClose();
-        EXPECT_TRUE(form.IsShown());
-        dialog.FeedClose();
-    });
-    other.ShowModal(&form);
-    form.FeedActivation();
-    EXPECT_EQ(form.Take(), "");
-
-    platform.OnNextModal([&](Form& dialog) {
-        form.Unload();
-        dialog.Hide();
-    });
-    other.ShowModal(&form);
-    EXPECT_EQ(forms.Active(), nullptr);
-}
-
 constexpr MouseEvent At(Twips x, Twips y, int button = LeftButton)
 {
     return {button, 0, x, y};

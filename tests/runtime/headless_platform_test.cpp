@@ -40,27 +40,6 @@ namespace tessarine
 namespace
 {
 
-TEST(Headless, AModalFormGetsItsAnswersInOrderAndNeverHangs)
-{
-    HeadlessPlatform platform;
-    Forms forms{platform};
-    contract::TestForm form(forms, "Question");
-    form.button.MouseUp = [&](const MouseEvent&) { form.Hide(); };
-    platform.AnswerModal("Ok");
-    platform.OnNextModal([&](Form&) { platform.Click(form.button, RightButton); });
-    form.ShowModal(nullptr);
-    form.ShowModal(nullptr);
-    EXPECT_EQ(platform.unscriptedModals, 0);
-    form.ShowModal(nullptr); // the first button that shows
-    EXPECT_EQ(platform.unscriptedModals, 1);
-    platform.OnNextModal([](Form&) {}); // a user who does not close it
-    form.ShowModal(nullptr);
-    EXPECT_FALSE(form.IsShown());
-    EXPECT_EQ(platform.unscriptedModals, 2);
-    platform.AnswerModal("Perhaps");
-    EXPECT_THROW(form.ShowModal(nullptr), std::logic_error);
-}
-
 TEST(Headless, AFailedWriteLeavesHalfOfTheBytes)
 {
     HeadlessPlatform platform;

@@ -24,24 +24,6 @@ TEST(DealTest, IsDrawnAtOnce)
     EXPECT_TRUE(isFrozen && world.platform.frozen == nullptr);
 }
 
-TEST(DealTest, PlacesAtDesignSize)
-{
-    GameWorld world;
-    Table& table = world.table;
-    const std::vector<Whole> columns(table.StackLeft.begin(), table.StackLeft.begin() + Columns);
-    EXPECT_EQ(columns, (std::vector<Whole>{40, 520, 1000, 1480, 1960, 2440, 2920, 3400}));
-    const std::vector<Whole> piles(table.StackLeft.begin() + FirstPile, table.StackLeft.end());
-    EXPECT_EQ(piles, (std::vector<Whole>{1632, 2074, 2516, 2958, 3400}));
-    EXPECT_EQ(table.StackTop[0], 700);
-    EXPECT_EQ(table.StackTop[StockStack], 100);
-    EXPECT_EQ(world.form.OuterWidth(), 4080);
-    EXPECT_EQ(table.Picture2.Width(), 3905);
-    EXPECT_EQ(world.form.NextCard[0].Left(), 445);
-    EXPECT_EQ(world.form.NextCard[1].Left(), 647.5);
-    EXPECT_EQ(world.form.NextCard[0].Top(), 193.75);
-    EXPECT_EQ(table.cardy[0].Font().size, 13);
-}
-
 TEST(DealTest, ShufflesDifferUnderOneClockReadingAndAreFair)
 {
     GameWorld world;

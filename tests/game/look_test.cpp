@@ -1,0 +1,150 @@
+// What every form shows and where, and what every command does.
+#include "support/game_world.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <set>
+#include <sstream>
+
+namespace tessarine::test
+{
+namespace
+{
+
+/// The controls on a form: words, left, top, width and height, and a font or a text colour that is not
+/// the usual one; in brackets what stands on a control. The cards have tests of their own.
+void Look(const Container& on, std::vector<std::string>& look)
+{
+    for (const Control* control : on.Children()) {
+        const auto* const box = dynamic_cast<const Container*>(control);
+        if (control->Width() == 0 || (on.Children().size() > ItemCount && control->IsLight())) {
+            continue;
+        }
+        std::ostringstream text;
+        const Font& font = control->Font();
+        std::string words = control->AccessibleName();
+        std::erase(words, '\r');
+        std::ranges::replace(words, '\n', ' ');
+        words.erase(0, words.find_first_not_of(' '));
+        words.erase(words.find_last_not_of(' ') + 1);
+        text << (words.empty() ? "-" : words);
+        for (const Twips number :
+             {control->Left(), control->Top(), control->Width(), control->Height()}) {
+            text << ' ' << number;
+        }
+        if (font.name != "Arial" || font.size != 8.25) {
+            text << ' ' << font.name << ' ' << font.size << (font.bold ? " bold" : "");
+        }
+        if (const Colour colour = control->ForeColor(); colour > 0) {
+            text << " #" << std::hex << colour;
+        }
+        look.push_back(text.str());
+        if (box != nullptr && !box->Children().empty()) {
+            look.emplace_back("[");
+            Look(*box, look);
+            look.emplace_back("]");
+        }
+    }
+}
+
+TEST(LookTest, EveryControlHasItsWordsAndItsPlace)
+{
+    std::istringstream expected(R"(
+Tessarine; Load Saved Game 30 30 360 360; Save Game 390 30 360 360; Scores 750 30 360 360; Options 1110
+30 360 360; New Game 1470 30 360 360; Restore current game 1830 30 360 360; About 2190 30 360 360; Help
+2550 30 360 360; Exit 2910 30 360 360; Undo 3270 30 360 360; Table 30 450 3905 7115; [; Turn the stock
+back 445 193.75 202.5 202.5; Turn the stock 647.5 193.75 202.5 202.5; Scores 450 690 3795 2985; [;
+tessarine Scores 60 60 3675 2865; [; Played 90 600 1005 225 Arial 9 bold #ffffff; Won 90 855 1005 255
+Arial 9 bold #ffffff; Drawn 90 1140 1005 255 Arial 9 bold #ffffff; Lost 90 1425 1005 255 Arial 9 bold
+#ffffff; This Session 1215 300 1275 255 Arial 9 bold #ffffff; Total 2565 300 1005 255 Arial 9 bold
+#ffffff; Played this session: 0 1215 600 900 255 Courier New 9; Played total: 0 2565 600 900 255
+Courier New 9; Won this session: 0 1215 885 900 255 Courier New 9; Won total: 0 2565 885 900 255
+Courier New 9; Drawn this session: 0 1215 1170 900 255 Courier New 9; Drawn total: 0 2565 1170 900 255
+Courier New 9; Lost this session: 0 1215 1455 900 255 Courier New 9; Lost total: 0 2565 1455 900 255
+Courier New 9; Last Update: 14Mar2008 90 1890 3465 345 Courier New 9; Close 750 2340 1095 405; Clear
+1845 2340 1095 405; ]; ]; ]; Tessarine Options; Colour Scheme 60 60 4335 3210; [; Background colour 150
+270 2025 1635; [; Background colour: Red 1050 25 250 1126; Background colour: Green 1395 25 250 1126;
+Background colour: Blue 1725 25 250 1126; - 1065 1170 225 195 Arial 7; - 1395 1170 225 195 Arial 7; -
+1755 1170 225 195 Arial 7; 192 1050 1380 270 210 Arial 7 #ff; 192 1380 1380 285 210 Arial 7 #c000; 192
+1725 1380 270 210 Arial 7 #ff0000; Selected 60 1380 645 165 Arial 7; - 788 1380 225 195 Arial 7; ];
+Contrast 106 2010 2064 228; View 60 2340 1005 375; Replace 1110 2340 1005 375; Delete 60 2715 1005 375;
+Add 1110 2715 1005 375; Colour schemes 2295 240 1920 2805 Courier New 8.25; ]; Sound 2370 3300 2025
+825; [; Sound: yes 270 330 1425 285; ]; Apply 210 3540 1005 375; Exit 1215 3540 1005 375; Card Colour
+4485 60 2265 4065; [; Card colour 120 270 2025 1605; [; Card colour: Red 1050 25 250 1126; Card colour:
+Green 1395 25 250 1126; Card colour: Blue 1725 25 250 1126; - 1065 1170 225 195 Arial 7; - 1395 1170
+225 195 Arial 7; - 1755 1170 225 195 Arial 7; 192 1050 1380 270 210 Arial 7 #ff; 192 1380 1380 285 210
+Arial 7 #c000; 192 1725 1380 270 210 Arial 7 #ff0000; Selected 60 1380 645 165 Arial 7; - 788 1380 225
+195 Arial 7; ]; Numbers 120 1950 2025 1545; [; Colour 1, suit S 120 270 1800 210; Colour 2, suit H 120
+510 1800 210; Colour 3, suit D 120 750 1800 210; Colour 4, suit C 120 990 1800 210; Colour 5, suit O
+120 1230 1800 210; ]; Reset 270 3570 1005 375; ]; Font 6840 60 2235 4065; [; Fonts 180 300 1845 2370
+Courier New 8.25; Sample of the font 750 2880 645 585 Arial 24 bold; Colour of the numbers 210 3630
+1800 210; ]; Tessarine Help; Back 60 30 1095 375; Forward 1155 30 1095 375; Exit 2244 30 1095 375; Help
+page 60 480 7125 5145; About Tessarine; Tessarine - March 2008 A variant of Halvard card game Uses a
+numbers deck instead of standard card deck 30 30 5505 2700; - 5616 96 480 432; Version 1.0 30 2760 5520
+315; OK 5610 2745 450 330 Arial 7.5)");
+    GameWorld world;
+    world.form.aboutForm.Load();
+    std::vector<std::string> look;
+    for (const Form* form : std::initializer_list<const Form*>{
+             &world.form, &world.form.form6, &world.form.form4, &world.form.aboutForm}) {
+        look.push_back(form->Caption());
+        Look(*form, look);
+    }
+    for (const std::string& shown : look) {
+        std::string wanted;
+        std::getline(expected, wanted, ';');
+        std::ranges::replace(wanted, '\n', ' ');
+        EXPECT_EQ(wanted.substr(1), shown);
+    }
+}
+
+/// The icons of the row, from the left, and what a press does: sounds, boxes, forms.
+TEST(LookTest, EveryCommandHasItsIconAndItsEffect)
+{
+    const std::vector<std::pair<BoxControl Form1::*, std::string>> commands = {
+        {&Form1::cmdLoadGame, " _menu.wav open"},
+        {&Form1::cmdSaveGame, "Game saved to file:\r\n/app/savedgame;01.gam _menu.wav"},
+        {&Form1::cmdscore, " _menu.wav scores"},
+        {&Form1::cmdopts, "Tessarine Options _menu.wav"},
+        {&Form1::cmdnewgame, "Abandon current game? _menu.wav"},
+        {&Form1::cmdreset, "Restore current game? _menu.wav"},
+        {&Form1::cmdabout, "About Tessarine _menu.wav"},
+        {&Form1::cmdhelp, " _menu.wav Tessarine Help"},
+        {&Form1::cmdexit, "Exit? _menu.wav"},
+        {&Form1::cmdundo, " _undo.wav"}};
+    std::set<const Picture*> icons;
+    for (const auto& [button, effect] : commands) {
+        GameWorld world({.columns = {{S9}}, .stock = {C8, C9}});
+        world.RightClick(C9);
+        world.ForgetSounds();
+        std::string seen;
+        world.platform.OnNextModal([&](Form& form) {
+            const auto* const box = dynamic_cast<MsgForm*>(&form);
+            seen += box == nullptr ? form.Caption() : box->Label1.Caption();
+            seen += world.platform.busy ? ", busy" : "";
+            for (const char* const harmless : {"No", "Ok", "OK", "Exit"}) {
+                if (Control* answer = HeadlessPlatform::FindShown(form, harmless); answer != nullptr) {
+                    return world.platform.Click(*answer);
+                }
+            }
+        });
+        const Picture* icon = (world.form.*button).Shown();
+        EXPECT_TRUE(icon != nullptr && !icon->shapes.empty() && icons.insert(icon).second) << effect;
+        world.Press(world.form.*button);
+        for (const std::string& sound : world.TakeSounds()) {
+            seen += ' ' + sound;
+        }
+        for (const FileDialogRequest& dialog : world.platform.fileDialogs) {
+            seen += dialog.save ? " save" : " open";
+        }
+        for (const Form* form : world.form.AllForms().Loaded()) {
+            seen += form->IsShown() && form != &world.form ? ' ' + form->Caption() : "";
+        }
+        seen += world.form.Score1.Visible() ? " scores" : "";
+        EXPECT_EQ(seen, effect);
+    }
+}
+
+} // namespace
+} // namespace tessarine::test
