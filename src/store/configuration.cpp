@@ -5,7 +5,6 @@
 
 #include <array>
 #include <cstdio>
-#include <optional>
 #include <utility>
 #include <vector>
 
@@ -48,7 +47,9 @@ std::string TimeStamp(const DateTime& now)
     return {text.data(), static_cast<std::size_t>(length)};
 }
 
-std::string TextOf(const Settings& settings, const DateTime& now)
+} // namespace
+
+std::string SettingsText(const Settings& settings, const DateTime& now)
 {
     std::vector<std::string> lines = {TimeStamp(now)};
     std::string line;
@@ -61,7 +62,6 @@ std::string TextOf(const Settings& settings, const DateTime& now)
     return JoinLines(lines);
 }
 
-/// None if the text ends before the last value.
 std::optional<Settings> ReadSettings(std::string_view text)
 {
     ValueStream values(text);
@@ -70,8 +70,6 @@ std::optional<Settings> ReadSettings(std::string_view text)
     ForEachSetting(settings, [&](auto& value, bool /*endsLine*/) { read = read && values.Read(value); });
     return read ? std::optional(settings) : std::nullopt;
 }
-
-} // namespace
 
 std::string Configuration::Path() const
 {
@@ -100,7 +98,7 @@ void Configuration::SavecfgFile()
 
 FileFault Configuration::Write()
 {
-    return ReplaceFile(platform_, Path(), TextOf(settings_, platform_.Now()));
+    return ReplaceFile(platform_, Path(), SettingsText(settings_, platform_.Now()));
 }
 
 void Configuration::Complain(std::string_view consequence)

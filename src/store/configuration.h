@@ -4,11 +4,17 @@
 #include "kit/message_box.h"
 #include "table/settings.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 
 namespace tessarine
 {
+
+/// The settings as a file states them; none if the text ends before the last value.
+std::optional<Settings> ReadSettings(std::string_view text);
+/// The text of a file, written at this time.
+std::string SettingsText(const Settings& settings, const DateTime& now);
 
 class Configuration
 {

@@ -1,6 +1,7 @@
 #include "store/value_stream.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace tessarine
 {
@@ -27,7 +28,9 @@ bool ValueStream::Read(Whole& value)
 bool ValueStream::Read(float& value)
 {
     const auto text = TakeUntil(EndsOfNumber);
-    value = static_cast<float>(NumberAtStart(text.value_or("")));
+    // A number that is too large for the kind is held at its end: out of range nothing is defined.
+    constexpr double largest = std::numeric_limits<float>::max();
+    value = static_cast<float>(std::clamp(NumberAtStart(text.value_or("")), -largest, largest));
     return text.has_value();
 }
 
