@@ -141,7 +141,8 @@ TEST_F(WindowTest, AWaitEndsWithTheEventThatItHandledAndInsideOneOthersSleep)
               2000);
     EXPECT_LT(wait([this] {
                   bool over = false;
-                  for (QTimer::singleShot(100, qApp, [&] { over = true; }); !over;) {
+                  QTimer::singleShot(100, qApp, [&] { over = true; });
+                  while (!over) {
                       platform.WaitForEvent();
                   }
               }),
