@@ -9,7 +9,7 @@ play_packages=(cmake ninja-build g++ pkg-config qt6-base-dev libgl-dev qt6-wayla
 # What only the tests need.
 test_packages=(libgtest-dev libbenchmark-dev clang clang-format clang-tidy libclang-rt-dev
                xvfb openbox xdotool wmctrl x11-utils x11-apps imagemagick
-               libglib2.0-bin desktop-file-utils)
+               python3-gi desktop-file-utils)
 
 say() { printf '%s\n' "$*"; }
 
