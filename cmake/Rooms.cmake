@@ -70,7 +70,7 @@ function(tessarine_tests name)
   if(NOT MSVC)
     target_compile_options(${name}_tests PRIVATE -O0) # checks run once: building them takes longer
   endif()
-  if(NOT name STREQUAL desktop)
+  if(NOT name MATCHES "^(desktop|windows)$") # what names the toolkit is compiled another way
     tessarine_share_headers(${name}_tests runtime_tests
       <algorithm> <functional> <string> <vector> <gtest/gtest.h>)
   endif()
