@@ -1,5 +1,6 @@
 // Feeds the readers what is kept for each of them: what broke once stays mended.
 //   readers_feed FOLDER   with a folder for each reader, of its name
+#include <array>
 #include <cstdint>
 #include <cstdio>
 #include <filesystem>
@@ -15,8 +16,8 @@ int main(int, char** words)
     int fed = 0;
     for (const auto& folder : std::filesystem::directory_iterator(words[1])) {
         std::string name = folder.path().filename().string();
-        char* choice[] = {words[0], name.data(), nullptr};
-        char** first = choice;
+        std::array<char*, 3> choice = {words[0], name.data(), nullptr};
+        char** first = choice.data();
         int count = 2;
         LLVMFuzzerInitialize(&count, &first);
         for (const auto& entry : std::filesystem::directory_iterator(folder)) {

@@ -1,34 +1,52 @@
 #!/usr/bin/env bash
-# Runs clang-tidy over the project's sources, as the given build folder compiles them. A source that
-# has not changed since it was last found clean, nor any header it includes, is not looked at again.
-#   tools/tidy.sh build/clang [source ...]
+# Runs clang-tidy over the project's sources with the flags that the given build folder compiles them
+# with, a whole folder at once, so that each header is read once. What has not changed since it was last
+# found clean is not looked at again.
+#   tools/tidy.sh build/clang [folder ...]
 set -u
 cd "$(dirname "$(readlink -f "$0")")/.." || exit 1
 
 build=$1
 shift
-stamps=build/tidy
-mkdir -p "$stamps"
+# A folder of its own beside the sources', with the same rules in the same places.
+work=build/tidy
+rm -rf "$work/rules"
+find .clang-tidy ./*/.clang-tidy ./*/*/.clang-tidy -print0 2>/dev/null |
+    xargs -0 -I{} install -D {} "$work/rules/{}"
 
-# The project's files that each object of the build was made from, one line an object, source first.
-inputs() {
-    ninja -C "$build" -t deps | awk -v root="$PWD/" '
-        /^[^ ].*: #deps/ { if (line) print line; line = ""; next }
-        index($1, root) == 1 {
-            file = substr($1, length(root) + 1)
-            if (file !~ /^build\//) line = line file " "
+# One line for each source of the project: folder, flags, source.
+sources() {
+    awk -v root="$PWD/" '
+        /^  "command": / {
+            sub(/^  "command": "[^ ]+ /, ""); sub(/",$/, "")
+            gsub(/ -o [^ ]+ -c [^ ]+/, ""); gsub(/\\"/, "\""); gsub(/\\\\/, "\\")
+            flags = $0
         }
-        END { if (line) print line }' | grep -E "^[^ ]+\.cpp " | sort -u
+        /^  "file": / {
+            sub(/^  "file": "/, ""); sub(/",?$/, "")
+            if (index($0, root) != 1) next
+            file = substr($0, length(root) + 1)
+            folder = file; sub(/\/[^\/]*$/, "", folder)
+            # Each of these has a main function of its own.
+            if (file !~ /^build\// && !seen[file]++)
+                print folder ((folder ~ /^(bench|fuzz|tools)/) ? " " file : "") "\t" flags "\t" file
+        }' "$build/compile_commands.json" | sort
 }
 
-# look SOURCE INPUTS...: looks at one source unless its stamp says that nothing changed.
+# look GROUP: looks at the sources of one group, unless its stamp says that nothing changed.
 look() {
-    local source=$1 stamp=$stamps/${1//\//__} sum
-    [ -f "$source" ] || return 0
-    sum=$(cat .clang-tidy ./*/.clang-tidy "$@" | sha256sum)
+    local place=$work/rules/${1% *} group stamp=$work/${1//[\/ ]/_} unified flags sum
+    unified=$place/UnifiedSource-${stamp##*/}.cpp
+    group=$(grep -P "^\Q$1\E\t" "$work/sources")
+    flags=$(head -n 1 <<<"$group" | cut -f 2)
+    mkdir -p "$place"
+    # By this name of the file the analyzer knows that what it includes is to be looked into.
+    cut -f 3 <<<"$group" | sed "s|.*|#include \"$PWD/&\" // NOLINT|" >"$unified"
+    sum=$(eval "clang++ $flags -MM $unified" | tr -d '\\' | tr ' ' '\n' | grep -F "$PWD/" | sort -u |
+        xargs cat .clang-tidy ./*/.clang-tidy "$unified" | sha256sum)
     [ "$sum" = "$(cat "$stamp" 2>/dev/null)" ] && return
-    echo "   $source"
-    if clang-tidy --quiet -p "$build" "$source" 2>"$stamp.err"; then
+    echo "   ${1% *} ($(wc -l <"$unified"))"
+    if eval "clang-tidy --quiet --header-filter='/(src|tests|fuzz|bench|tools)/' $unified -- $flags" 2>"$stamp.err"; then
         echo "$sum" >"$stamp"
     else
         # What it says beside its findings matters only when it found none, such as a missing header.
@@ -37,17 +55,9 @@ look() {
     fi
 }
 export -f look
-export build stamps
+export build work
 
-# The sources asked for, or all.
-wanted() {
-    if [ $# -eq 0 ]; then
-        cat
-    else
-        awk -v names="$*" 'BEGIN { n = split(names, name, " "); for (i = 1; i <= n; ++i) want[name[i]] }
-                           $1 in want'
-    fi
-}
-
-# shellcheck disable=SC2016 # the words of a line are the arguments
-inputs | wanted "$@" | xargs -P "$(nproc)" -I{} bash -c 'look $1' look {}
+sources >"$work/sources"
+for folder in "${@:-}"; do
+    cut -f 1 "$work/sources" | grep -E "^$folder" | sort -u
+done | xargs -P "$(nproc)" -I{} bash -c 'look "$1"' look {}

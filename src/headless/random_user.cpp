@@ -162,7 +162,11 @@ Form& RandomUser::Target(const Gesture& gesture) const
 {
     const Forms& forms = main_.AllForms();
     std::vector<Form*> shown;
-    std::ranges::copy_if(forms.Loaded(), std::back_inserter(shown), &Form::IsShown);
+    for (Form* form : forms.Loaded()) {
+        if (form->IsShown()) {
+            shown.push_back(form);
+        }
+    }
     if (gesture.window % 4 != 0 || shown.empty()) {
         return forms.Modal() != nullptr && forms.Modal()->IsShown() ? *forms.Modal() : main_;
     }

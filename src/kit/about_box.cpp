@@ -7,7 +7,7 @@ namespace tessarine
 namespace
 {
 
-constexpr Size ClientArea{6135, 3120};
+constexpr Size AboutArea{6135, 3120};
 constexpr const char* Description = "Tessarine - March 2008\r\n"
                                     "A variant of Halvard card game\r\n"
                                     "Uses a numbers deck instead of standard card deck";
@@ -15,7 +15,7 @@ constexpr const char* Description = "Tessarine - March 2008\r\n"
 } // namespace
 
 AboutForm::AboutForm(Forms& forms, const Dress& dress)
-    : Form(forms, "About Tessarine", ClientArea), dress_(dress)
+    : Form(forms, "About Tessarine", AboutArea), dress_(dress)
 {
     SetIcon(icons::Program());
 

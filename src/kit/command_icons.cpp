@@ -8,7 +8,7 @@ namespace tessarine::icons
 namespace
 {
 
-constexpr int Cells = 16;
+constexpr int RowCells = 16;
 constexpr Colour Shade = Rgb(190, 190, 190);
 
 /// A sheet of paper with its upper right corner folded down, and signs on it.
@@ -28,7 +28,7 @@ std::vector<Shape> SheetWith(const std::vector<Shape>& signs)
 const Picture& OpenFolder()
 {
     static const Picture picture = {
-        Cells,
+        RowCells,
         {
             Area(Ink, {{1, 14}, {1, 3}, {2, 2}, {6, 2}, {8, 4}, {13, 4}, {13, 14}}),
             Area(Shade, {{2, 13}, {2, 3.4}, {2.4, 3}, {5.6, 3}, {7.6, 5}, {12, 5}, {12, 13}}),
@@ -40,7 +40,7 @@ const Picture& OpenFolder()
 
 const Picture& FloppyDisk()
 {
-    static const Picture picture = {Cells,
+    static const Picture picture = {RowCells,
                                     {
                                         Area(Ink, {{1, 1}, {13, 1}, {15, 3}, {15, 15}, {1, 15}}),
                                         Bar(Paper, {4, 1, 12, 6}),
@@ -54,7 +54,7 @@ const Picture& FloppyDisk()
 
 const Picture& ScoreSheet()
 {
-    static const Picture picture = {Cells,
+    static const Picture picture = {RowCells,
                                     {
                                         Bar(Ink, {2, 1, 14, 15}),
                                         Bar(Paper, {3, 5, 13, 14}),
@@ -74,7 +74,7 @@ const Picture& ScoreSheet()
 
 const Picture& ColourStripes()
 {
-    static const Picture picture = {Cells,
+    static const Picture picture = {RowCells,
                                     {
                                         Bar(Ink, {1, 2, 15, 14}),
                                         Bar(Rgb(224, 40, 40), {2, 3, 4, 13}),
@@ -90,26 +90,26 @@ const Picture& ColourStripes()
 const Picture& SheetWithCheckMark()
 {
     static const Picture picture = {
-        Cells, SheetWith({Area(Ink, {{4, 9}, {5.5, 7.5}, {7, 9}, {10.5, 5.5}, {12, 7}, {7, 12}})})};
+        RowCells, SheetWith({Area(Ink, {{4, 9}, {5.5, 7.5}, {7, 9}, {10.5, 5.5}, {12, 7}, {7, 12}})})};
     return picture;
 }
 
 const Picture& SheetWithTurningArrows()
 {
-    static const Picture picture = {Cells, SheetWith({
-                                               Bar(Ink, {4, 7, 9, 8}),
-                                               Bar(Ink, {4, 8, 5, 10}),
-                                               Area(Ink, {{9, 5}, {11.5, 7.5}, {9, 10}}),
-                                               Bar(Ink, {7, 11, 12, 12}),
-                                               Bar(Ink, {11, 9, 12, 11}),
-                                               Area(Ink, {{7, 9}, {7, 14}, {4.5, 11.5}}),
-                                           })};
+    static const Picture picture = {RowCells, SheetWith({
+                                                  Bar(Ink, {4, 7, 9, 8}),
+                                                  Bar(Ink, {4, 8, 5, 10}),
+                                                  Area(Ink, {{9, 5}, {11.5, 7.5}, {9, 10}}),
+                                                  Bar(Ink, {7, 11, 12, 12}),
+                                                  Bar(Ink, {11, 9, 12, 11}),
+                                                  Area(Ink, {{7, 9}, {7, 14}, {4.5, 11.5}}),
+                                              })};
     return picture;
 }
 
 const Picture& ExclamationInRing()
 {
-    static const Picture picture = {Cells,
+    static const Picture picture = {RowCells,
                                     {
                                         OutlinedDisc(Paper, Ink, {1.5, 1.5, 14.5, 14.5}),
                                         Bar(Ink, {7, 4, 9, 9}),
@@ -120,7 +120,7 @@ const Picture& ExclamationInRing()
 
 const Picture& QuestionMark()
 {
-    static const Picture picture = {Cells,
+    static const Picture picture = {RowCells,
                                     {
                                         Bend(Ink, 2, {5, 2, 11, 8}, -90, 270),
                                         Bar(Ink, {7, 7, 9, 11}),
@@ -132,7 +132,7 @@ const Picture& QuestionMark()
 const Picture& DoorWithArrow()
 {
     static const Picture picture = {
-        Cells,
+        RowCells,
         {
             Bar(Ink, {1, 1, 10, 14}),
             Bar(Shade, {2, 2, 9, 13}),
@@ -146,7 +146,7 @@ const Picture& DoorWithArrow()
 
 const Picture& ArrowPointingBack()
 {
-    static const Picture picture = {Cells,
+    static const Picture picture = {RowCells,
                                     {
                                         Area(Ink, {{1, 6}, {6, 1}, {6, 11}}),
                                         Bar(Ink, {6, 5, 10, 7}),

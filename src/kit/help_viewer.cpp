@@ -7,7 +7,7 @@ namespace tessarine
 namespace
 {
 
-constexpr Size ClientArea{7185, 5625};
+constexpr Size HelpArea{7185, 5625};
 constexpr Twips ButtonTop = 30;
 constexpr Size ButtonSize{1095, 375};
 // What the page leaves of the window, its frame counted in.
@@ -16,7 +16,7 @@ constexpr Twips BelowPage = 480;
 
 } // namespace
 
-Form4::Form4(Forms& forms, const Dress& dress) : Form(forms, "Tessarine Help", ClientArea), dress_(dress)
+Form4::Form4(Forms& forms, const Dress& dress) : Form(forms, "Tessarine Help", HelpArea), dress_(dress)
 {
     Sizable = true;
     SetIcon(icons::Program());

@@ -72,14 +72,14 @@ std::array<const Picture*, MsgForm::IconCount - 2> Pictures()
 constexpr Point LabelPlace{840, 300};
 constexpr Point IconPlace{90, 90};
 constexpr Twips IconSide = 480;
-constexpr Size ButtonSize{885, 350};
+constexpr Size AnswerSize{885, 350};
 constexpr Twips BelowText = 120; ///< the label is so much higher than its text
 constexpr Twips AboveButtons = 120;
 constexpr Twips BelowButtons = 600; ///< with the frame of the window
 
 } // namespace
 
-MsgForm::MsgForm(Forms& forms) : Form(forms, {}, {3 * ButtonSize.width, 2 * ButtonSize.height})
+MsgForm::MsgForm(Forms& forms) : Form(forms, {}, {3 * AnswerSize.width, 2 * AnswerSize.height})
 {
     // Every message gives the form a size of its own.
     HasCloseBox = false;
@@ -99,7 +99,7 @@ MsgForm::MsgForm(Forms& forms) : Form(forms, {}, {3 * ButtonSize.width, 2 * Butt
     }
 
     for (BoxControl& button : cmd) {
-        button.SetBounds(0, 0, ButtonSize.width, ButtonSize.height);
+        button.SetBounds(0, 0, AnswerSize.width, AnswerSize.height);
         button.MouseUp = [this, &button](const MouseEvent&) {
             AnswerCode = WholeAtStart(button.Tag);
             Hide();

@@ -8,7 +8,7 @@ namespace tessarine::icons
 namespace
 {
 
-constexpr int Cells = 32;
+constexpr int BoxCells = 32;
 constexpr Colour Blue = Rgb(36, 96, 176);
 constexpr Colour Red = Rgb(200, 36, 36);
 constexpr Colour Yellow = Rgb(255, 208, 48);
@@ -20,7 +20,7 @@ constexpr Colour Green = Rgb(32, 136, 88);
 
 const Picture& Question()
 {
-    static const Picture picture = {Cells,
+    static const Picture picture = {BoxCells,
                                     {
                                         OutlinedDisc(Blue, Ink, {1.5, 1.5, 30.5, 30.5}),
                                         Bend(Paper, 4, {11, 6, 21, 16}, -90, 270),
@@ -32,7 +32,7 @@ const Picture& Question()
 
 const Picture& Exclamation()
 {
-    static const Picture picture = {Cells,
+    static const Picture picture = {BoxCells,
                                     {
                                         Outlined(Yellow, Ink, {{16, 2}, {30.5, 29.5}, {1.5, 29.5}}),
                                         Area(Ink, {{13.5, 11}, {18.5, 11}, {17.5, 21}, {14.5, 21}}),
@@ -43,7 +43,7 @@ const Picture& Exclamation()
 
 const Picture& Information()
 {
-    static const Picture picture = {Cells,
+    static const Picture picture = {BoxCells,
                                     {
                                         Area(Ink, {{8, 22}, {8, 31}, {18, 22}}),
                                         OutlinedDisc(Paper, Ink, {1.5, 1.5, 30.5, 25.5}),
@@ -65,7 +65,7 @@ const Picture& Information()
 
 const Picture& Error()
 {
-    static const Picture picture = {Cells,
+    static const Picture picture = {BoxCells,
                                     {
                                         OutlinedDisc(Red, Ink, {1.5, 1.5, 30.5, 30.5}),
                                         Area(Paper, {{8, 11},
@@ -86,7 +86,7 @@ const Picture& Error()
 
 const Picture& Critical()
 {
-    static const Picture picture = {Cells,
+    static const Picture picture = {BoxCells,
                                     {
                                         Outlined(Red, Ink,
                                                  {{10, 1.5},
@@ -105,7 +105,7 @@ const Picture& Critical()
 
 const Picture& Happy()
 {
-    static const Picture picture = {Cells,
+    static const Picture picture = {BoxCells,
                                     {
                                         OutlinedDisc(Yellow, Ink, {1.5, 1.5, 30.5, 30.5}),
                                         Disc(Ink, {9, 9, 13, 15}),
@@ -117,7 +117,7 @@ const Picture& Happy()
 
 const Picture& Trash()
 {
-    static const Picture picture = {Cells,
+    static const Picture picture = {BoxCells,
                                     {
                                         Area(Ink, {{6, 9}, {26, 9}, {24, 31}, {8, 31}}),
                                         Area(Grey, {{7.1, 10}, {24.9, 10}, {23.1, 30}, {8.9, 30}}),
@@ -135,7 +135,7 @@ const Picture& Trash()
 const Picture& Print()
 {
     static const Picture picture = {
-        Cells,
+        BoxCells,
         {
             Bar(Ink, {8, 2, 24, 13}),
             Bar(Paper, {9, 3, 23, 13}),
@@ -154,7 +154,7 @@ const Picture& Print()
 const Picture& LightOn()
 {
     static const Picture picture = {
-        Cells,
+        BoxCells,
         {
             Outlined(Yellow, Ink, {{14.5, 0.5}, {17.5, 0.5}, {17.5, 4.5}, {14.5, 4.5}}),
             Outlined(Yellow, Ink, {{0.5, 12.5}, {4.5, 12.5}, {4.5, 15.5}, {0.5, 15.5}}),
@@ -175,7 +175,7 @@ const Picture& LightOn()
 const Picture& Program()
 {
     static const Picture picture = {
-        Cells,
+        BoxCells,
         {
             // The cards keep to even lines: a title bar shows them at half their size.
             Bar(Ink, {0, 0, 20, 20}),
