@@ -162,13 +162,10 @@ Form& RandomUser::Target(const Gesture& gesture) const
 {
     const Forms& forms = main_.AllForms();
     std::vector<Form*> shown;
-    for (Form* form : forms.Loaded()) {
-        if (form->IsShown()) {
-            shown.push_back(form);
-        }
-    }
+    std::ranges::copy_if(forms.Loaded(), std::back_inserter(shown), &Form::IsShown);
     if (gesture.window % 4 != 0 || shown.empty()) {
-        return forms.Modal() != nullptr && forms.Modal()->IsShown() ? *forms.Modal() : main_;
+        Form* const modal = forms.Modal();
+        return modal != nullptr && modal->IsShown() ? *modal : main_;
     }
     return *shown[gesture.window / 4U % shown.size()];
 }

@@ -10,22 +10,21 @@ namespace
 
 constexpr double ReadableContrast = 4.5;
 
-/// The share of a channel in the brightness that an eye sees, from 0 to 1.
-double Linear(int channel)
-{
-    const double share = channel / 255.0;
-    return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
-}
-
 /// The brightness that an eye sees, with the eye's own 0.05 added.
 double Brightness(Colour colour)
 {
     const Colour plain = TranslateColor(colour);
-    return 0.2126 * Linear(clrRed(plain)) + 0.7152 * Linear(clrGreen(plain)) +
-           0.0722 * Linear(clrBlue(plain)) + 0.05;
+    return 0.2126 * LightOf(clrRed(plain)) + 0.7152 * LightOf(clrGreen(plain)) +
+           0.0722 * LightOf(clrBlue(plain)) + 0.05;
 }
 
 } // namespace
+
+double LightOf(int channel)
+{
+    const double share = channel / 255.0;
+    return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
+}
 
 double Contrast(Colour one, Colour other)
 {

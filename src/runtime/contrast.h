@@ -6,6 +6,9 @@
 namespace tessarine
 {
 
+/// The light of a channel of a colour, from 0 to 255, as a share of the most, from 0 to 1.
+double LightOf(int channel);
+
 /// From 1, the same brightness, to 21, black on white. References to system colours are resolved.
 double Contrast(Colour one, Colour other);
 

@@ -39,7 +39,7 @@ TEST_F(HelpPage, HasAPlaceForEveryLinkAndALinkToEverySection)
 TEST_F(HelpPage, IsPlainAsciiAndShowsEveryPictureAtHalfItsPixelsAndInWords)
 {
     const auto pictures =
-        Found(page, "<img src=\"([^\"]+)\" alt=\"[^\"]+\" width=\"([0-9]+)\" height=\"([0-9]+)\">");
+        Found(page, R"html(<img src="([^"]+)" alt="[^"]+" width="([0-9]+)" height="([0-9]+)">)html");
     EXPECT_EQ(pictures.size(), 14U);
     EXPECT_EQ(All("<(img)").size(), 14U) << "one without all of this";
     for (const auto& picture : pictures) {

@@ -42,10 +42,11 @@ TEST(ConfigurationTest, RoundTripKeepsEveryValue)
     shared.SchemeFile = "blue lagoon.col";
     shared.CardFont = "Courier New";
     world.form.configuration.SavecfgFile();
-    const Settings written = shared;
-    static_cast<Settings&>(shared) = Settings();
+    Settings& settings = shared;
+    const Settings written = settings;
+    settings = Settings();
     world.form.configuration.ReadcfgFile();
-    EXPECT_TRUE(static_cast<Settings&>(shared) == written);
+    EXPECT_TRUE(settings == written);
     EXPECT_EQ(world.platform.unscriptedModals, 0);
 }
 
