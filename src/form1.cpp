@@ -4,7 +4,6 @@
 #include "kit/icons.h"
 #include "presentation/places.h"
 #include "runtime/files.h"
-#include "table/description.h"
 
 namespace tessarine
 {
@@ -14,7 +13,7 @@ Form1::Form1(Platform& platform, const std::string& programPath, const std::stri
       sound(platform, shared.AppDir, shared.SoundOn), msgForm(list), form4(list, shared),
       aboutForm(list, shared), table(*this, shared, sound), Score1(platform, programName), hand(table),
       undo(table), deal(table, hand, undo), ring(table), drops(table, hand, ring, undo),
-      automove(table, hand, drops, [this] { gameCommands.GameWon(); }),
+      automove(table, hand, drops, [this] { GameWon(); }),
       gestures({table, hand, ring, drops, undo, automove}), scaling(table, NextCard),
       resizing(table, scaling, door), configuration(platform, shared.AppDir, shared, msgForm),
       gameFile(table, deal, scaling, ring), snapshot(table, gameFile),
@@ -120,6 +119,14 @@ void Form1::Start()
     Score1.Start();
     Load();
     Show();
+    news.Tell();
+}
+
+/// The last move is told before the message that it has won.
+void Form1::GameWon()
+{
+    news.Tell();
+    gameCommands.GameWon();
 }
 
 /// The order matters: the configuration names the scheme, the first item takes a colour of the scheme,

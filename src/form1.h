@@ -22,6 +22,7 @@
 #include "store/snapshot.h"
 #include "table/automove.h"
 #include "table/deal.h"
+#include "table/description.h"
 #include "table/drops.h"
 #include "table/gestures.h"
 #include "table/hand.h"
@@ -77,7 +78,8 @@ public:
     FNDialog gf1;
     PushButton Command2; ///< out of the user's reach: the options dialog presses it
 
-    Door door{list};
+    News news{table};
+    Door door{list, [this] { news.Tell(); }};
     Hand hand;
     Undo undo;
     Deal deal;
@@ -110,6 +112,7 @@ private:
     /// Whatever asks for the close: the program ends at once.
     void Form_QueryUnload() { platform().EndProgram(); }
     void DressMessageBox();
+    void GameWon();
     void TakePlacesOfStacks();
     /// The table wears the active scheme.
     void Command2_Click();

@@ -4,12 +4,13 @@
 #include "desktop/surface.h"
 #include "desktop/text.h"
 
+#include <QAbstractButton>
 #include <QAccessible>
 #include <QAccessibleWidget>
-#include <QGroupBox>
-#include <QScrollBar>
+#include <QDialog>
 
 #include <algorithm>
+#include <optional>
 #include <unordered_map>
 #include <vector>
 
@@ -18,16 +19,46 @@ namespace tessarine
 namespace
 {
 
-QString NameOf(const Control& control)
+/// The name of a control, and what a tool knows of it: tools keep the names that they have read.
+class KnownName
 {
-    return ToText(control.AccessibleName());
+public:
+    explicit KnownName(const Control& control) : control_(control) {}
+
+    QString Read() const { return *(known_ = ToText(control_.AccessibleName())); }
+    /// Tells the tools if they have read another name than the present one.
+    void Check(QAccessibleInterface& face) const
+    {
+        if (const auto before = known_; before && *before != Read()) {
+            QAccessibleEvent event(&face, QAccessible::NameChanged);
+            QAccessible::updateAccessibility(&event);
+        }
+    }
+
+private:
+    const Control& control_;
+    mutable std::optional<QString> known_;
+};
+
+/// Has what a tool asked for done in an event of its own: it may open a box, and the tool has its answer
+/// at once.
+template <class Action> void DoSoon(QWidget& widget, const Action& action)
+{
+    QMetaObject::invokeMethod(&widget, action, Qt::QueuedConnection);
 }
 
 /// A label or an image: nothing that the toolkit knows of, painted on the widget of its container.
 class PaintedThing final : public QAccessibleInterface
 {
 public:
-    PaintedThing(const Control& control, QWidget& on) : control_(control), on_(&on) {}
+    PaintedThing(const Control& control, QWidget& on) : control_(control), name_(control), on_(&on) {}
+
+    void CheckName()
+    {
+        if (isValid()) {
+            name_.Check(*this);
+        }
+    }
 
     bool isValid() const override
     {
@@ -44,7 +75,7 @@ public:
     int indexOfChild(const QAccessibleInterface*) const override { return -1; }
     QString text(QAccessible::Text kind) const override
     {
-        return kind == QAccessible::Name && isValid() ? NameOf(control_) : QString();
+        return kind == QAccessible::Name && isValid() ? name_.Read() : QString();
     }
     void setText(QAccessible::Text, const QString&) override {}
     QRect rect() const override
@@ -65,6 +96,7 @@ public:
 
 private:
     const Control& control_;
+    KnownName name_;
     QPointer<QWidget> on_;
 };
 
@@ -72,7 +104,7 @@ QAccessible::Role RoleOf(const Control& control)
 {
     switch (control.Kind()) {
     case ControlKind::Form:
-        return QAccessible::Window;
+        return static_cast<const Form&>(control).Sizable ? QAccessible::Window : QAccessible::Dialog;
     case ControlKind::UserControl:
         return control.TakesFocus() ? QAccessible::Button : QAccessible::Grouping;
     case ControlKind::Frame:
@@ -88,7 +120,7 @@ class PaintedSurface final : public QAccessibleWidget
 {
 public:
     PaintedSurface(QWidget& widget, Peer& peer)
-        : QAccessibleWidget(&widget, RoleOf(*peer.TheControl())), peer_(peer)
+        : QAccessibleWidget(&widget, RoleOf(*peer.TheControl())), peer_(peer), name_(*peer.TheControl())
     {
     }
     ~PaintedSurface() override
@@ -137,8 +169,24 @@ public:
     {
         const Control* const control = peer_.TheControl();
         const bool isName = kind == QAccessible::Name && control != nullptr;
-        return isName && control->Kind() != ControlKind::Form ? NameOf(*control)
+        return isName && control->Kind() != ControlKind::Form ? name_.Read()
                                                               : QAccessibleWidget::text(kind);
+    }
+    QAccessible::State state() const override
+    {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.modal = widget()->isWindow() && widget()->isModal();
+        return state;
+    }
+    void CheckNames()
+    {
+        if (peer_.TheControl() == nullptr) {
+            return;
+        }
+        name_.Check(*this);
+        for (const auto& [control, id] : things_) {
+            static_cast<PaintedThing*>(QAccessible::accessibleInterface(id))->CheckName();
+        }
     }
 
     QStringList actionNames() const override
@@ -153,9 +201,13 @@ public:
     {
         if (action != pressAction()) {
             QAccessibleWidget::doAction(action);
-        } else if (peer_.TheControl() != nullptr) {
-            peer_.TheControl()->UserActivates();
+            return;
         }
+        DoSoon(*widget(), [&peer = peer_] {
+            if (peer.TheControl() != nullptr) {
+                peer.TheControl()->UserActivates();
+            }
+        });
     }
 
 private:
@@ -181,7 +233,53 @@ private:
     }
 
     Peer& peer_;
+    KnownName name_;
     mutable std::unordered_map<const Control*, QAccessible::Id> things_;
+};
+
+/// A box of the toolkit.
+class Box final : public QAccessibleWidget
+{
+public:
+    explicit Box(QDialog& box) : QAccessibleWidget(&box, QAccessible::Dialog) {}
+
+    QAccessible::State state() const override
+    {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.modal = widget()->isModal();
+        return state;
+    }
+};
+
+/// An option button or a check box. It is the control that turns it, so there is no more to it than a
+/// click.
+class Turned final : public QAccessibleWidget
+{
+public:
+    Turned(QAbstractButton& button, QAccessible::Role role) : QAccessibleWidget(&button, role) {}
+
+    QAccessible::State state() const override
+    {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.checkable = true;
+        state.checked = Button().isChecked();
+        return state;
+    }
+    QStringList actionNames() const override
+    {
+        return QStringList(pressAction()) + QAccessibleWidget::actionNames();
+    }
+    void doAction(const QString& action) override
+    {
+        if (action != pressAction()) {
+            QAccessibleWidget::doAction(action);
+            return;
+        }
+        DoSoon(Button(), [&button = Button()] { button.click(); });
+    }
+
+private:
+    QAbstractButton& Button() const { return *static_cast<QAbstractButton*>(widget()); }
 };
 
 /// A scroll bar says the value of its control, which may have its larger end at the top.
@@ -203,7 +301,8 @@ public:
         if (peer_.TheControl() == nullptr || (kind != QAccessible::Name && kind != QAccessible::Value)) {
             return QAccessibleWidget::text(kind);
         }
-        return kind == QAccessible::Name ? NameOf(Bar()) : QString::number(Bar().Value());
+        return kind == QAccessible::Name ? ToText(Bar().AccessibleName())
+                                         : QString::number(Bar().Value());
     }
     QVariant currentValue() const override { return Bar().Value(); }
     void setCurrentValue(const QVariant& value) override { Bar().UserSets(value.toInt()); }
@@ -221,7 +320,8 @@ QAccessibleInterface* MakeInterface(const QString&, QObject* object)
 {
     Peer* const peer = PeerBehind(object);
     if (peer == nullptr || peer->TheControl() == nullptr) {
-        return nullptr;
+        auto* const box = qobject_cast<QDialog*>(object);
+        return box == nullptr ? nullptr : new Box(*box);
     }
     QWidget& widget = peer->Widget();
     const Control& control = *peer->TheControl();
@@ -233,6 +333,10 @@ QAccessibleInterface* MakeInterface(const QString&, QObject* object)
         return new PaintedSurface(widget, *peer);
     case ControlKind::ScrollBar:
         return new ScrollValue(widget, *peer);
+    case ControlKind::OptionButton:
+        return new Turned(static_cast<QAbstractButton&>(widget), QAccessible::RadioButton);
+    case ControlKind::CheckBox:
+        return new Turned(static_cast<QAbstractButton&>(widget), QAccessible::CheckBox);
     default:
         return nullptr; // the toolkit has one of its own; the widget knows its name
     }
@@ -243,6 +347,17 @@ QAccessibleInterface* MakeInterface(const QString&, QObject* object)
 void InstallAccessibility()
 {
     QAccessible::installFactory(MakeInterface);
+}
+
+void NamesMayDiffer(QWidget& widget)
+{
+    if (!QAccessible::isActive()) {
+        return;
+    }
+    if (auto* const surface =
+            dynamic_cast<PaintedSurface*>(QAccessible::queryAccessibleInterface(&widget))) {
+        surface->CheckNames();
+    }
 }
 
 } // namespace tessarine

@@ -290,6 +290,13 @@ std::string DesktopPlatform::ChooseFile(const FileDialogRequest& request, Form* 
     });
 }
 
+void DesktopPlatform::Announce(const Form& form, const std::string& news)
+{
+    if (FormWindow* const window = WindowOf(form)) {
+        announcer_.Say(*window, ToText(news));
+    }
+}
+
 void DesktopPlatform::PlayWave(const std::string& path)
 {
     sounds_.Play(path);

@@ -1,6 +1,7 @@
 // The platform of a real desktop.
 #pragma once
 
+#include "desktop/announcer.h"
 #include "desktop/event_waits.h"
 #include "desktop/form_window.h"
 #include "desktop/sounds.h"
@@ -58,6 +59,7 @@ public:
     std::string AskForText(const std::string& prompt) override;
     std::string ChooseFile(const FileDialogRequest& request, Form* owner) override;
 
+    void Announce(const Form& form, const std::string& news) override;
     void PlayWave(const std::string& path) override;
 
     FileResult ReadFile(const std::string& path) override;
@@ -84,6 +86,7 @@ private:
     template <class Ask> auto InBox(const Ask& ask);
 
     Desk desk_;
+    Announcer announcer_;
     Sounds sounds_;
     std::unordered_map<const Form*, Window> windows_;
     std::map<int, Timer*> timers_; ///< by the toolkit's number

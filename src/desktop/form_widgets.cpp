@@ -1,5 +1,6 @@
 #include "desktop/form_widgets.h"
 
+#include "desktop/accessibility.h"
 #include "desktop/pixels.h"
 #include "desktop/widgets.h"
 
@@ -42,6 +43,7 @@ void FormWidgets::FollowChanges()
     }
     for (const auto& [widget, region] : dirt) {
         widget->update(region);
+        NamesMayDiffer(*widget);
     }
     KeepTabOrder();
 }

@@ -1,5 +1,6 @@
 #include "desktop/surface.h"
 
+#include "desktop/accessibility.h"
 #include "desktop/colours.h"
 #include "desktop/painter.h"
 #include "runtime/contrast.h"
@@ -65,6 +66,7 @@ void Surface::RefreshContents()
         ground_ = ground;
         update();
     }
+    NamesMayDiffer(*this);
 }
 
 void Surface::paintEvent(QPaintEvent* event)

@@ -41,6 +41,7 @@ public:
     // --- what happened ---
 
     std::vector<std::string> sounds;        ///< paths as they came, oldest first
+    std::string announced;                  ///< the latest of what a listener was told
     std::vector<std::string> plainMessages; ///< texts of the system's own message box
     std::vector<FileDialogRequest> fileDialogs;
     std::vector<std::string> modalCaptions; ///< captions of the modal forms that were run
@@ -125,6 +126,7 @@ public:
     bool PlainMessage(const std::string& text, PlainButtons buttons) override;
     std::string AskForText(const std::string& prompt) override;
     std::string ChooseFile(const FileDialogRequest& request, Form* owner) override;
+    void Announce(const Form&, const std::string& news) override { announced = news; }
     void PlayWave(const std::string& path) override;
     FileResult ReadFile(const std::string& path) override;
     FileResult PlaceToWrite(const std::string& path) override;

@@ -3,6 +3,9 @@
 
 #include "runtime/form.h"
 
+#include <functional>
+#include <utility>
+
 namespace tessarine
 {
 
@@ -13,7 +16,11 @@ namespace tessarine
 class Door
 {
 public:
-    explicit Door(const Forms& forms) : forms_(forms) {}
+    /// `whenOver` runs each time that nothing is under way any more.
+    explicit Door(const Forms& forms, std::function<void()> whenOver = {})
+        : forms_(forms), whenOver_(std::move(whenOver))
+    {
+    }
 
     bool IsOpen() const { return inmost_ == nullptr || inmost_->modal_ != forms_.Modal(); }
 
@@ -29,8 +36,13 @@ public:
     /// lost.
     template <class Action> void Enter(const Action& action)
     {
-        const Visit visit(*this);
-        action();
+        {
+            const Visit visit(*this);
+            action();
+        }
+        if (inmost_ == nullptr && whenOver_) {
+            whenOver_();
+        }
     }
 
 private:
@@ -53,6 +65,7 @@ private:
     };
 
     const Forms& forms_;
+    std::function<void()> whenOver_;
     const Visit* inmost_ = nullptr;
 };
 

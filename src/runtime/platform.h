@@ -104,6 +104,10 @@ public:
     /// The full path chosen; empty on cancel.
     virtual std::string ChooseFile(const FileDialogRequest& request, Form* owner) = 0;
 
+    /// Says what is new on a form to whoever listens instead of looking, at once and in plain words;
+    /// nothing where nobody does.
+    virtual void Announce(const Form& form, const std::string& news) = 0;
+
     /// Plays a wave file and returns at once; silence where that can't be.
     virtual void PlayWave(const std::string& path) = 0;
 

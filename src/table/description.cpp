@@ -1,5 +1,9 @@
 #include "table/description.h"
 
+#include <algorithm>
+#include <utility>
+#include <vector>
+
 namespace tessarine
 {
 namespace
@@ -22,6 +26,27 @@ std::string OfStockItem(const TextList& stock)
         return {}; // a card lies in front of it
     }
     return stock.Count() == 1 ? "stock, used up" : "stock, between two passes";
+}
+
+/// A face-down card says that there is one, which a deal leaves to be known.
+bool IsFaceDownCard(const Table& table, int item)
+{
+    return IsCard(item) && !table.IsFaceUp(item);
+}
+
+/// From the first column to the last pile, in each stack its place and then its cards from there on.
+std::vector<int> ItemsByPlace(const Table& table)
+{
+    std::vector<int> items;
+    for (int stack = 0; stack < StackCount; ++stack) {
+        items.push_back(SlotOf(stack));
+        for (const std::string& entry : table.Stacks[stack]) {
+            if (entry != Marker) {
+                items.push_back(CardOfEntry(entry));
+            }
+        }
+    }
+    return items;
 }
 
 } // namespace
@@ -53,6 +78,41 @@ void DescribeItems(Table& table)
 {
     for (int item = 0; item < ItemCount; ++item) {
         table.cardy[item].Describe = [&table, item] { return Description(table, item); };
+    }
+}
+
+/// Nothing but a deal lays a card face-down.
+bool News::WasDealt() const
+{
+    for (int card = 0; card < CardCount; ++card) {
+        if (IsFaceDownCard(table_, card) && told_[card] != Description(table_, card)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+void News::Tell()
+{
+    const bool dealt = WasDealt();
+    if (dealt) {
+        told_ = {};
+    }
+    std::string moved;
+    std::string shown;
+    for (const int item : ItemsByPlace(table_)) {
+        const std::string now = Description(table_, item);
+        const std::string before = std::exchange(told_[item], now);
+        const bool isEmptyPile = !IsCard(item) && IsPile(table_.StackOf(item));
+        if (now != before && !now.empty() && !IsFaceDownCard(table_, item) && !isEmptyPile) {
+            const bool isElsewhere = before.starts_with(table_.cardy[item].Caption() + " of ");
+            (isElsewhere ? moved : shown) += now + "; ";
+        }
+    }
+    std::string news = moved + shown;
+    if (!news.empty()) {
+        news.resize(news.size() - 2);
+        table_.form().platform().Announce(table_.form(), (dealt ? "new deal: " : "") + news);
     }
 }
 
