@@ -50,8 +50,8 @@ FileResult SchemeStore::ReadText() const
 bool SchemeStore::AddEntry(const std::string& nameLine) const
 {
     FileResult file = ReadText();
-    // A file that is there but can't be read must not be written over.
-    if (!file && file.fault != FileFault::Missing) {
+    // A file that can't be read must not be written over, nor one that was gone for a moment only.
+    if (!file && ReadText().fault != FileFault::Missing) {
         return false;
     }
     return ReplaceFile(platform_, module_.AllColFile,

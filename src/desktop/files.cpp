@@ -35,15 +35,17 @@ FileFault FaultOfKind(const fs::path& path)
     }
 }
 
-/// Where a chain of links ends, whether or not something is there. One that goes in circles is given
-/// up on the way.
-fs::path EndOfLinks(fs::path path)
+/// Where a chain of links ends, whether or not something is there, and what failed on the way. One that
+/// goes in circles is given up.
+fs::path EndOfLinks(fs::path path, std::error_code& failure)
 {
     constexpr int longestChain = 40;
-    std::error_code failure;
     for (int links = 0; links < longestChain && fs::is_symlink(fs::symlink_status(path, failure));
          ++links) {
         const fs::path target = fs::read_symlink(path, failure);
+        if (failure) {
+            break;
+        }
         path = path.parent_path() / target; // the target alone, if it names its whole way
     }
     return path;
@@ -107,8 +109,13 @@ FileResult Read(const std::string& path)
 
 FileResult PlaceToWrite(const std::string& path)
 {
-    const fs::path place = EndOfLinks(PathOf(path));
+    std::error_code failure;
+    const fs::path place = EndOfLinks(PathOf(path), failure);
     const FileFault fault = FaultOfKind(place);
+    // What could not be looked at may be a link, which a new file must not take the place of.
+    if (failure && FaultOf(failure) != fault) {
+        return FaultOf(failure);
+    }
     if (fault == FileFault::None && IsWriteProtected(place)) {
         return FileFault::Forbidden;
     }

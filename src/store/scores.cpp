@@ -107,7 +107,7 @@ void ScoresBox::Restyled()
 void ScoresBox::Start()
 {
     const FileResult file = platform_.ReadFile(file_);
-    fileIsUnread_ = !file && file.fault != FileFault::Missing;
+    fileIsUnread_ = !file; // one that is not there may be seen a moment later
     if (!file.text.empty()) {
         ShowScores(UnscrambleLine(SplitLines(file.text).front()));
         return;

@@ -63,7 +63,7 @@ private:
 
     Platform& platform_;
     std::string file_;
-    bool fileIsUnread_ = false; ///< it was there at the start and could not be read
+    bool fileIsUnread_ = false; ///< at the start nothing could be read
     bool won_ = false;
     bool drawn_ = false;
     bool lost_ = false;
