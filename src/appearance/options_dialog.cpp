@@ -70,6 +70,7 @@ Form6::Form6(Forms& forms, Module1& module, SchemeStore& store, MsgForm& message
       messageBox_(messageBox), sound_(sound), command2_(command2),
       commands_(forms.platform(), module, store, List1)
 {
+    StandsBeside = true; // what Apply does is to be seen
     PlaceControls();
     NameControls();
     List2.FillWhenAsked([this] { return platform().ScreenFonts(); });

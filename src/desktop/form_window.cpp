@@ -72,7 +72,7 @@ void FormWindow::Open()
     }
     RefreshEverything();
     if (!place_) {
-        PlaceBy(QApplication::activeWindow(), &placing::Beside);
+        PlaceBy(QApplication::activeWindow());
     }
     widgets_.FocusFirst();
     show();
@@ -85,7 +85,7 @@ void FormWindow::RunBefore(FormWindow* owner)
     winId(); // the window must exist before it can be told whose it is
     windowHandle()->setTransientParent(owner == nullptr ? nullptr : owner->windowHandle());
     RefreshEverything();
-    PlaceBy(owner, &placing::Centred);
+    PlaceBy(owner);
     widgets_.FocusFirst();
     show();
     activateWindow();
@@ -129,15 +129,15 @@ QScreen& FormWindow::HomeScreen()
 }
 
 /// By another window if it is up; else in the middle of the home screen.
-void FormWindow::PlaceBy(const QWidget* other, placing::Rule* rule)
+void FormWindow::PlaceBy(const QWidget* other)
 {
     const bool isAlone = other == nullptr || !other->isVisible();
+    placing::Rule* const rule =
+        TheForm()->StandsBeside && !isAlone ? &placing::Beside : &placing::Centred;
     QScreen& on = isAlone ? HomeScreen() : *other->screen();
     const QRect screen = on.availableGeometry();
-    place_ = [rule = isAlone ? &placing::Centred : rule, screen,
-              by = isAlone ? screen : other->windowHandle()->frameGeometry()](QSize outer) {
-        return rule(outer, by, screen);
-    };
+    place_ = [rule, screen, by = isAlone ? screen : other->windowHandle()->frameGeometry()](
+                 QSize outer) { return rule(outer, by, screen); };
     setScreen(&on);
     PutInPlace();
 }

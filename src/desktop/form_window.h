@@ -50,7 +50,7 @@ protected:
 private:
     Form* TheForm() const { return static_cast<Form*>(TheControl()); }
     bool HoldsItsSize() const;
-    void PlaceBy(const QWidget* other, placing::Rule* rule);
+    void PlaceBy(const QWidget* other);
     QMargins Frame() const;
     void PutInPlace();
     void LearnFrame();

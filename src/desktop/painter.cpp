@@ -24,6 +24,13 @@ double BorderOf(const Label& label)
     return std::max(1.0, std::floor(label.Width() / widthPerLine));
 }
 
+/// The largest square in the middle: a picture is never drawn out of its shape.
+QRect SquareIn(const QRect& rect)
+{
+    const int side = std::min(rect.width(), rect.height());
+    return {rect.x() + (rect.width() - side) / 2, rect.y() + (rect.height() - side) / 2, side, side};
+}
+
 bool HidesWhatLiesBehind(const Control& light)
 {
     return light.Kind() == ControlKind::Label && static_cast<const Label&>(light).IsOpaque();
@@ -109,7 +116,7 @@ void Painter::PaintChildren(const Container& container, std::optional<QColor> gr
         if ((*control)->Kind() == ControlKind::Label) {
             PaintLabel(static_cast<const Label&>(**control));
         } else if (const Picture* picture = static_cast<const Image&>(**control).Shown()) {
-            PaintPicture(painter_, *picture, RectOf(**control));
+            PaintPicture(painter_, *picture, SquareIn(RectOf(**control)));
         }
     }
 }

@@ -31,7 +31,7 @@ inline QPoint Centred(QSize outer, const QRect& other, const QRect& screen)
     return HeldOn(screen, other.topLeft() + QPoint(around.width() / 2, around.height() / 2), outer);
 }
 
-/// Where there is room, right before left, so that both can be seen; else in the middle of the screen.
+/// Where there is room, right before left, so that both can be seen; else in the middle of the other.
 inline QPoint Beside(QSize outer, const QRect& other, const QRect& screen)
 {
     const int right = other.x() + other.width();
@@ -39,7 +39,7 @@ inline QPoint Beside(QSize outer, const QRect& other, const QRect& screen)
     if (right + outer.width() <= screen.x() + screen.width()) {
         return HeldOn(screen, {right, other.y()}, outer);
     }
-    return left < screen.x() ? Centred(outer, screen, screen) : HeldOn(screen, {left, other.y()}, outer);
+    return left < screen.x() ? Centred(outer, other, screen) : HeldOn(screen, {left, other.y()}, outer);
 }
 
 } // namespace tessarine::placing

@@ -19,6 +19,7 @@ constexpr Twips BelowPage = 480;
 Form4::Form4(Forms& forms, const Dress& dress) : Form(forms, "Tessarine Help", HelpArea), dress_(dress)
 {
     Sizable = true;
+    StandsBeside = true;
     SetIcon(icons::Program());
 
     const auto addButton = [this](PushButton& button, const char* caption, Twips left) {

@@ -48,7 +48,7 @@ private:
     bool opaque_ = true;
 };
 
-/// A picture stretched to the control's bounds.
+/// A picture in the largest square within the control's bounds.
 class Image : public Control
 {
 public:

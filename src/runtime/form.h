@@ -83,6 +83,9 @@ public:
     /// How the window is made; set before the first Show.
     bool Sizable = false;
     bool HasCloseBox = true;
+    /// Whether it comes up beside the window that it belongs to, so that both can be seen, where the
+    /// screen has room; else, and otherwise, before the middle of that window.
+    bool StandsBeside = false;
     /// Whether the keyboard works the form's controls.
     bool TakesKeys = true;
     /// The control that Escape presses; none where leaving without an answer would harm.

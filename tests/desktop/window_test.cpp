@@ -99,6 +99,12 @@ TEST_F(WindowTest, StandsWithItsFrameInTheMiddleOfItsOwnerOrOfTheScreenWithThePo
         EXPECT_GT(frameOf(box).width(), 200) << "without a frame this tries nothing";
         EXPECT_EQ(middle(frameOf(box)), middle(frameOf(form)));
     });
+    box.StandsBeside = true;
+    runBox([&] {
+        EXPECT_FALSE(frameOf(box).intersects(frameOf(form)));
+        EXPECT_TRUE(QRect(800, 0, 900, 700).contains(frameOf(box)));
+    });
+    box.StandsBeside = false;
     platform.WindowOf(form)->move(810, -20);
     form.SetClientArea({1500, 600});
     runBox([&] { EXPECT_TRUE(QRect(800, 0, 900, 700).contains(frameOf(box))); });
@@ -115,7 +121,7 @@ TEST(PlacingTest, AWindowIsWhollyOnTheScreenOfItsOwner)
     EXPECT_EQ(placing::Centred({1100, 900}, second, second), second.topLeft());
     EXPECT_EQ(placing::Beside(box, {900, 100, 300, 500}, screen), QPoint(1200, 100));
     EXPECT_EQ(placing::Beside(box, {901, 900, 300, 500}, screen), QPoint(501, 862));
-    EXPECT_EQ(placing::Beside(box, {300, 0, 1000, 900}, screen), QPoint(600, 431));
+    EXPECT_EQ(placing::Beside(box, {300, 0, 1000, 900}, screen), QPoint(600, 381));
 }
 
 TEST_F(WindowTest, AWaitEndsWithTheEventThatItHandledAndInsideOneOthersSleep)
