@@ -205,12 +205,13 @@ struct Model {
         const Row& row = stacks[from];
         const auto place = static_cast<int>(std::ranges::find(row, item) - row.begin());
         const int count = static_cast<int>(row.size()) - place;
-        const bool picksUp = from < Nowhere && place >= closed[from];
+        const int shift = Choose(15) == 0 ? ShiftKey : 0;
+        const bool picksUp = from < Nowhere && place >= closed[from] && shift == 0;
         const Point home = world.Place(item);
         const Point corner = world.Corner(item);
         const Point end{corner.x + left - home.x + 60, corner.y + top - home.y + 60};
         const int other = picksUp ? AnyOf(Row{RightButton, MiddleButton, 0, 0}) : 0;
-        world.platform.Press(world.form, corner.x + 60, corner.y + 60);
+        world.platform.Press(world.form, corner.x + 60, corner.y + 60, LeftButton, shift);
         if (other != 0) {
             world.platform.Press(world.form, corner.x + 60, corner.y + 60, other);
         }
@@ -274,6 +275,9 @@ struct Model {
                         << card;
                     EXPECT_EQ(shown.Caption(), isOpen ? std::to_string(card % 10) : "") << card;
                     EXPECT_EQ(shown.Font().underline, stack >= 15) << card;
+                    EXPECT_EQ(shown.BackColor(), isOpen ? world.form.shared.SuitColor[card / 10]
+                                                        : world.form.shared.Button())
+                        << card;
                 }
                 top += stack >= 8 ? 0 : isOpen ? 375 : 125;
             }

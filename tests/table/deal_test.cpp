@@ -40,30 +40,6 @@ TEST(DealTest, ShufflesDifferUnderOneClockReadingAndAreFair)
     EXPECT_LT(std::ranges::max(first), 12);
 }
 
-TEST(LayoutTest, TheFanOfAColumnAtTwoSizes)
-{
-    GameWorld world;
-    const std::vector<int> column = {40, 31, 22, S7, S6};
-    world.Arrange({.columns = {column}, .stock = {1}, .faceDownInEachColumn = 3});
-    const auto tops = [&] {
-        std::vector<Twips> found;
-        for (const int card : column) {
-            found.push_back(world.table.cardy[card].Top());
-        }
-        return found;
-    };
-    EXPECT_EQ(tops(), (std::vector<Twips>{700, 825, 950, 1075, 1450}));
-    world.form.scaling.ScaleTable(1.0F);
-    EXPECT_EQ(tops(), (std::vector<Twips>{700, 825, 950, 1075, 1450}));
-    world.form.scaling.ScaleTable(2.0F);
-    EXPECT_EQ(tops(), (std::vector<Twips>{1400, 1650, 1900, 2150, 2900}));
-    // Face-down cards and bases wear the button colour, faces their suit's.
-    EXPECT_EQ(world.table.cardy[40].BackColor(), world.form.shared.Button());
-    EXPECT_EQ(world.table.cardy[65].BackColor(), world.form.shared.Button());
-    EXPECT_EQ(world.table.cardy[7].BackColor(), world.form.shared.SuitColor[0]);
-    EXPECT_FALSE(world.table.cardy[52].Visible());
-}
-
 TEST(LayoutTest, EachNumberIsRoundedByItselfAndHeldInBounds)
 {
     constexpr float endless = std::numeric_limits<float>::infinity();
@@ -126,22 +102,6 @@ TEST(ResizingTest, TheWindowSnapsToTheTable)
     EXPECT_EQ(world.form.shared.CardWidth, 506);
     EXPECT_EQ(world.table.Picture2.Height(), 4000);
     EXPECT_FALSE(world.platform.HasWork());
-}
-
-TEST(ResizingTest, AWindowThatRefusesKeepsItsWidth)
-{
-    GameWorld world;
-    world.platform.refusesSize.insert(&world.form);
-    world.form.FeedResize({12000 - FrameWidth, 8000});
-    world.platform.Advance(100);
-    EXPECT_EQ(world.form.OuterWidth(), 12000);
-    EXPECT_EQ(world.form.shared.LastFormWidth, 12000);
-    EXPECT_NEAR(world.form.shared.CardWidth, 405 * 12000.0 / 4080, 1);
-    EXPECT_FALSE(world.platform.HasWork());
-    // A window too low for any table.
-    world.form.FeedResize({12000 - FrameWidth, 100});
-    world.platform.Advance(100);
-    EXPECT_GE(world.table.Picture2.Height(), 0);
 }
 
 TEST(TableDescriptionTest, WhatAListenerIsTold)

@@ -14,36 +14,31 @@ namespace
 
 using Sounds = std::vector<std::string>;
 
-TEST(MovesTest, ASlideTakesTenStepsToItsPlace)
+TEST(MovesTest, ASlideTakesTenStepsOfWholeTwipsInFrontOfAll)
 {
-    GameWorld world({.columns = {{H6}, {H5}, {S7, S1}}});
+    GameWorld world({.columns = {{H6}, {}, {S7, H5}}});
+    std::vector<Point> seen;
+    Timer watch(world.platform);
+    watch.OnTick = [&] {
+        EXPECT_EQ(world.table.Picture2.Children().back(), &world.table.cardy[H5]);
+        seen.push_back(world.Place(H5));
+    };
+    watch.SetInterval(3);
+    watch.SetEnabled(true);
     const auto start = world.platform.milliseconds;
     world.RightClick(H5);
+    watch.SetEnabled(false);
     EXPECT_EQ(world.platform.milliseconds - start, 30);
+    std::vector<Point> expected; // an exact half goes to the even neighbour
+    for (const Twips y : {1038, 1000, 962, 924, 886, 848, 810, 772, 734, 696}) {
+        expected.push_back({1000 - 96 * (static_cast<Twips>(expected.size()) + 1), y});
+    }
+    EXPECT_EQ(seen, expected);
     EXPECT_EQ(world.Place(H5), (Point{40, 1075}));
     world.form.shared.MoveSteps = 0;
-    world.RightClick(S1);
+    world.DragOnto(H5, FirstColumnBase + 1);
+    world.RightClick(H5);
     EXPECT_EQ(world.platform.milliseconds - start, 30);
-    EXPECT_EQ(world.Place(S1), (Point{520, 700}));
-}
-
-TEST(GesturesTest, OnlyAPlainLeftPressOnAPlayableCardPicksUp)
-{
-    GameWorld world({.columns = {{H6, H5}, {}, {S1, S8}}, .stock = {C8}, .faceDownInEachColumn = 1});
-    const auto picksUp = [&](int item, int button = LeftButton, int shift = 0) {
-        const Point corner = world.Corner(item);
-        world.platform.Press(world.form, corner.x + 60, corner.y + 60, button, shift);
-        const bool dragging = world.form.hand.Dragging();
-        world.platform.Release(world.form, corner.x + 60, corner.y + 60, button, shift);
-        return dragging;
-    };
-    EXPECT_TRUE(picksUp(H5));
-    EXPECT_TRUE(picksUp(C8));
-    EXPECT_FALSE(picksUp(H5, LeftButton, ShiftKey));
-    EXPECT_FALSE(picksUp(H5, MiddleButton));
-    EXPECT_FALSE(picksUp(H6)) << "face-down";
-    EXPECT_FALSE(picksUp(FirstColumnBase + 1));
-    EXPECT_FALSE(world.form.hand.Dragging());
 }
 
 /// Whatever takes the mouse away in the middle of a drag ends it as a whole: cards home, silent, and the
@@ -97,28 +92,6 @@ TEST(MovesTest, ADropJudgesForItself)
     EXPECT_TRUE(world.form.hand.IsEmpty());
     EXPECT_THROW(world.table.cardy[ItemCount].Caption(), std::out_of_range);
     EXPECT_THROW(world.table.Stacks[NoStack].Count(), std::out_of_range);
-}
-
-TEST(GesturesTest, ZonesOfStockPilesAndColumns)
-{
-    GameWorld world({.columns = {{H6}}});
-    const auto over = [&](Whole left, Whole top) {
-        world.table.cardy[H6].Move(left, top);
-        return world.form.gestures.FindDropTarget(H6).item;
-    };
-    EXPECT_EQ(over(-161, 100), StockItem); // 40 - 202 = -162 is still outside
-    EXPECT_EQ(over(-162, 100), NoCard);
-    EXPECT_EQ(over(40, 474), StockItem);
-    EXPECT_EQ(over(40, 475), H6); // below the stock: column 0 and its last card
-    // Where the zones of two piles meet the one further left wins.
-    EXPECT_EQ(over(2037, 100), FirstPileBase); // 1632 - 202 + 607.5 = 2037.5
-    EXPECT_EQ(over(2038, 100), FirstPileBase + 1);
-    EXPECT_EQ(over(3400, 100), FirstPileBase + 4);
-    // A column reaches from a quarter card to the left, 445.5 twips wide, at any height.
-    EXPECT_EQ(over(520 - 101, 5000), NoCard);
-    EXPECT_EQ(over(520 - 100, 5000), FirstColumnBase + 1);
-    EXPECT_EQ(over(520 - 101 + 445, 5000), FirstColumnBase + 1);
-    EXPECT_EQ(over(520 - 101 + 446, 5000), NoCard);
 }
 
 } // namespace
