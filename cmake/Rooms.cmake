@@ -58,6 +58,9 @@ function(tessarine_room name)
     <algorithm> <functional> <string> <string_view> <utility> <vector>)
 endfunction()
 
+# What the core is checked with: its test programs and the fuzzers.
+add_custom_target(core_checks)
+
 # tessarine_tests(NAME targets ...): a test program of all the sources in tests/NAME.
 function(tessarine_tests name)
   file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/${name}/*.cpp)
@@ -73,6 +76,7 @@ function(tessarine_tests name)
   if(NOT name MATCHES "^(desktop|windows)$") # what names the toolkit is compiled another way
     tessarine_share_headers(${name}_tests runtime_tests
       <algorithm> <functional> <string> <vector> <gtest/gtest.h>)
+    add_dependencies(core_checks ${name}_tests)
   endif()
   if(CMAKE_CROSSCOMPILING)
     # An emulator takes its time to start a program: all of its tests go in one.
