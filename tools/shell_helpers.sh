@@ -9,7 +9,8 @@ play_packages=(cmake ninja-build g++ pkg-config qt6-base-dev libgl-dev qt6-wayla
 # What only the tests need.
 test_packages=(libgtest-dev libbenchmark-dev clang clang-format clang-tidy libclang-rt-dev
                xvfb openbox xdotool wmctrl x11-utils x11-apps imagemagick
-               python3-gi desktop-file-utils)
+               desktop-file-utils
+               python3-gi gir1.2-atspi-2.0 at-spi2-core dbus-daemon)
 
 say() { printf '%s\n' "$*"; }
 

@@ -34,11 +34,13 @@ bool IsFaceDownCard(const Table& table, int item)
     return IsCard(item) && !table.IsFaceUp(item);
 }
 
-/// From the first column to the last pile, in each stack its place and then its cards from there on.
+/// The piles come first, then the columns and the stock; of each stack its place, and its cards from
+/// there on.
 std::vector<int> ItemsByPlace(const Table& table)
 {
     std::vector<int> items;
-    for (int stack = 0; stack < StackCount; ++stack) {
+    for (int n = 0; n < StackCount; ++n) {
+        const int stack = (FirstPile + n) % StackCount;
         items.push_back(SlotOf(stack));
         for (const std::string& entry : table.Stacks[stack]) {
             if (entry != Marker) {
@@ -47,6 +49,21 @@ std::vector<int> ItemsByPlace(const Table& table)
         }
     }
     return items;
+}
+
+std::string FaceOf(const Table& table, int card)
+{
+    return table.cardy[card].Caption() + " of " + table.CardSuit(card);
+}
+
+/// What there is to tell of an item: on a finished pile of every card, since several may come at once.
+std::string Tidings(const Table& table, int item)
+{
+    const int stack = table.StackOf(item);
+    if (IsPile(stack)) {
+        return IsCard(item) ? FaceOf(table, item) + ", " + PlaceOf(stack) : std::string();
+    }
+    return Description(table, item);
 }
 
 } // namespace
@@ -71,7 +88,7 @@ std::string Description(const Table& table, int item)
     if (!table.IsFaceUp(item)) {
         return "face-down card, " + PlaceOf(stack);
     }
-    return table.cardy[item].Caption() + " of " + table.CardSuit(item) + ", " + PlaceOf(stack);
+    return FaceOf(table, item) + ", " + PlaceOf(stack);
 }
 
 void DescribeItems(Table& table)
@@ -85,7 +102,7 @@ void DescribeItems(Table& table)
 bool News::WasDealt() const
 {
     for (int card = 0; card < CardCount; ++card) {
-        if (IsFaceDownCard(table_, card) && told_[card] != Description(table_, card)) {
+        if (IsFaceDownCard(table_, card) && told_[card] != Tidings(table_, card)) {
             return true;
         }
     }
@@ -101,10 +118,9 @@ void News::Tell()
     std::string moved;
     std::string shown;
     for (const int item : ItemsByPlace(table_)) {
-        const std::string now = Description(table_, item);
+        const std::string now = Tidings(table_, item);
         const std::string before = std::exchange(told_[item], now);
-        const bool isEmptyPile = !IsCard(item) && IsPile(table_.StackOf(item));
-        if (now != before && !now.empty() && !IsFaceDownCard(table_, item) && !isEmptyPile) {
+        if (now != before && !now.empty() && !IsFaceDownCard(table_, item)) {
             const bool isElsewhere = before.starts_with(table_.cardy[item].Caption() + " of ");
             (isElsewhere ? moved : shown) += now + "; ";
         }

@@ -104,8 +104,11 @@ see() { # STACK=CARDS... what changes on the table; then it must show all of it
         seen=
         for colour in $(pixels_of "$window" "$format"); do seen+=${letter[$colour]:-?}; done
     done
+    by_ear
     sleep "$([ $# -gt 0 ] && echo 0.15 || echo 0.5)" # a card may still slide, and the program takes no press
 }
+
+by_ear() { :; } # what a listener must have been told by then, where there is one
 
 # Whether played, won, drawn and lost of all runs are these. They stand behind a date of nine letters,
 # each letter in two digits after meeting one of the key.
@@ -173,6 +176,34 @@ game() {
         <(printf 'now\r\n%s' "$settings") || fail "the configuration is not written as it was read"
 }
 game_at_200_percent() { scale=2 && export QT_SCALE_FACTOR=2 && game; } # on a screen of twice as many pixels
+
+game_by_ear() { # a reader on a bus of its own presses the buttons, and knows the table from hearing
+    local said=$out/heard name
+    local row=('Load Saved Game' 'Save Game' Scores Options 'New Game' 'Restore current game' About Help Exit Undo)
+    local ok=('' Ok) yes_or_no=('' Yes No)
+    dbus-daemon --session --nofork --print-address >"$home/bus" 2>"$out/bus.log" & started+=($!)
+    soon "a bus" test -s "$home/bus"
+    DBUS_SESSION_BUS_ADDRESS=$(<"$home/bus") && export DBUS_SESSION_BUS_ADDRESS
+    "$here/reader.py" listen "$said" "${cards[@]}" 2>"$out/reader.log" & started+=($!)
+    soon "a listener" test -s "$said"
+    by_ear() { soon "the listener knows it: $(<"$said")" table_is_known; }
+    table_is_known() { [ "$(<"$said")" = "known$(for key in {0..7} s p; do printf ' %s=%s' "$key" "${table[$key]}"; done)" ]; }
+    reader_presses() { "$here/reader.py" press "$1" 2>>"$out/reader.log" || fail "the reader can't press $1"; }
+    command_button() { reader_presses "${row[$1]}"; }
+    answer() {
+        soon "a message box with $2 buttons" box_shows_buttons "$2"
+        if [ "$2" -eq 1 ]; then reader_presses "${ok[$1]}"; else reader_presses "${yes_or_no[$1]}"; fi
+        soon "the message box takes its answer" box_has_changed "$2"
+    }
+    game
+    cmp "$said.boxes" <(printf '%s\n' 'Restore current game?' 'Game restored' 'Its all done!' 'Abandon current game?' \
+        'Abandon current game?' "Game saved to file: $program/savedgame;01.gam" 'Exit?') || fail "other boxes were heard"
+    start_program
+    for name in Options 'Colour 2, suit H' Exit Scores Clear No Close About OK Help Exit; do
+        reader_presses "$name" && sleep 0.5
+    done
+    close_window
+}
 
 window() {
     local before
