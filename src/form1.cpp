@@ -188,7 +188,8 @@ SchemeWearers Form1::Wearers()
     return {{&Score1, this, &table.Picture2, &table.cardy[0]},
             {&cmdnewgame, &cmdreset, &cmdundo, &cmdLoadGame, &cmdSaveGame, &cmdabout, &cmdexit, &cmdopts,
              &cmdscore, &cmdhelp, &NextCard[0], &NextCard[1]},
-            msgForm};
+            msgForm,
+            *this};
 }
 
 } // namespace tessarine

@@ -14,6 +14,7 @@ void ApplyScheme(Module1& module, const SchemeWearers& wearers)
     }
     wearers.messageBox.SetBackColor(module.Background());
     wearers.messageBox.ButtonColour = module.Button();
+    wearers.mainWindow.ButtonColour = module.Button();
     wearers.messageBox.SetForeColor(module.DarkColor);
 }
 

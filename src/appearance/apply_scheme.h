@@ -14,6 +14,7 @@ struct SchemeWearers {
     std::vector<Control*> surfaces; ///< in the colour of the background
     std::vector<Control*> buttons;  ///< in the button colour
     MsgForm& messageBox;
+    Form& mainWindow; ///< for the boxes of the system that belong to it
 };
 
 /// Paints the surfaces, the buttons and the message box, each list in its order, from SchemeColors.

@@ -224,6 +224,7 @@ void Form6::PaintOptions()
     for (Control* button : {&cmdreset, &addsch, &delsch, &showsch, &repsch, &command3, &command4}) {
         button->SetBackColor(module_.Button());
     }
+    ButtonColour = module_.Button();
 }
 
 void Form6::ShowNumColours()

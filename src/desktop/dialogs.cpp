@@ -1,8 +1,12 @@
 #include "desktop/dialogs.h"
 
+#include "desktop/colours.h"
 #include "desktop/files.h"
+#include "desktop/fonts.h"
+#include "desktop/peer.h"
 #include "desktop/start.h"
 #include "desktop/text.h"
+#include "runtime/contrast.h"
 
 #include <QCoreApplication>
 #include <QFileDialog>
@@ -43,19 +47,34 @@ void ShowNewestFirst(QFileDialog& box)
     list->sortByColumn(Date, Qt::DescendingOrder);
 }
 
+/// Gives a box and all that is in it the colours of the form that it belongs to, and the program's font.
+void Dress(QWidget& box, const QWidget* owner)
+{
+    const auto* const peer = dynamic_cast<const Peer*>(owner);
+    const auto* const form = dynamic_cast<const Form*>(peer == nullptr ? nullptr : peer->TheControl());
+    const Colour ground = form == nullptr ? ButtonFace : form->BackColor();
+    box.setPalette(
+        PaletteOf(ground, ReadableOn(ground), form == nullptr ? ButtonFace : form->ButtonColour));
+    box.setFont(WidgetFont(Font()));
+    for (QWidget* const part : box.findChildren<QWidget*>()) {
+        part->setFont(box.font()); // a desktop may have fonts for kinds of widgets
+    }
+}
+
 } // namespace
 
 bool Message(QWidget* parent, const std::string& text, PlainButtons buttons)
 {
     const bool asks = buttons == PlainButtons::YesNo;
-    QMessageBox box(asks ? QMessageBox::Question : QMessageBox::Information, QLatin1String(ProgramTitle),
-                    {}, asks ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok, parent);
+    QMessageBox box(QMessageBox::NoIcon, QLatin1String(ProgramTitle), {},
+                    asks ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok, parent);
     box.setTextFormat(Qt::PlainText);
     box.setText(ToText(text));
     if (asks) {
         box.setDefaultButton(QMessageBox::No);
         box.setEscapeButton(QMessageBox::No);
     }
+    Dress(box, parent);
     const int answer = box.exec();
     return !asks || answer == QMessageBox::Yes;
 }
@@ -65,6 +84,7 @@ std::string Text(QWidget* parent, const std::string& prompt)
     QInputDialog box(parent);
     box.setWindowTitle(QLatin1String(ProgramTitle));
     box.setLabelText(ToText(prompt));
+    Dress(box, parent);
     return box.exec() == QDialog::Accepted ? ToBytes(box.textValue()) : std::string();
 }
 
@@ -81,6 +101,7 @@ std::string File(QWidget* parent, const FileDialogRequest& request)
     if (!request.name.empty()) {
         box.selectFile(ToText(request.name));
     }
+    Dress(box, parent);
     std::string chosen;
     if (box.exec() == QDialog::Accepted && !box.selectedFiles().isEmpty()) {
         chosen = PathToBytes(box.selectedFiles().constFirst());

@@ -25,7 +25,8 @@ bool IsPlainAscii(std::string_view text)
                                [](char letter) { return static_cast<unsigned char>(letter) < 128; });
 }
 
-/// The font for a text, at so many times its size.
+/// The font for a text, at so many times its size. No system has an "Ariel", and each would put another
+/// font in its place.
 QFont ScaledFont(const Font& font, double ratio, std::string_view text = {})
 {
     QFont scaled;
@@ -33,7 +34,7 @@ QFont ScaledFont(const Font& font, double ratio, std::string_view text = {})
         // Every font has these letters: no search for others that would help out.
         scaled.setStyleStrategy(QFont::NoFontMerging);
     }
-    scaled.setFamilies({ToText(font.name)});
+    scaled.setFamilies({font.name == "Ariel" ? QStringLiteral("Arial") : ToText(font.name)});
     scaled.setPointSizeF(std::clamp(font.size * ratio, SmallestPoints, LargestPoints));
     scaled.setBold(font.bold);
     scaled.setItalic(font.italic);

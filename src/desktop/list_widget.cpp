@@ -193,13 +193,6 @@ protected:
             Pick(wish, LeftButton);
         }
     }
-    void paintEvent(QPaintEvent* event) override
-    {
-        QListView::paintEvent(event);
-        if (hasFocus() && !currentIndex().isValid()) {
-            PaintFocus(*viewport()); // no row shows it
-        }
-    }
     void resizeEvent(QResizeEvent* event) override
     {
         QListView::resizeEvent(event);

@@ -1,5 +1,6 @@
 // The program Tessarine on a desktop.
 #include "desktop/desktop_platform.h"
+#include "desktop/dress_style.h"
 #include "desktop/fonts.h"
 #include "desktop/start.h"
 #include "desktop/text.h"
@@ -39,7 +40,7 @@ int main(int argc, char* argv[])
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
         Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     QCoreApplication::setAttribute(Qt::AA_Use96Dpi);
-    QApplication::setStyle(QStringLiteral("fusion"));
+    QApplication::setStyle(new tessarine::DressStyle);
     QCoreApplication::setApplicationName(QStringLiteral("tessarine"));
     QGuiApplication::setDesktopFileName(QStringLiteral("tessarine"));
 

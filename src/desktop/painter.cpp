@@ -54,17 +54,39 @@ QRegion InDevicePixels(const QRegion& region, double ratio, const QRect& all)
 } // namespace
 
 Painter::Painter(QWidget& widget, const QRegion& region, Typesetter& typesetter)
-    : painter_(&widget), typesetter_(typesetter), widget_(widget)
+    : own_(std::in_place, &widget), painter_(*own_), typesetter_(typesetter), widget_(&widget)
+{
+    Begin(widget.rect());
+    dirty_ = InDevicePixels(region, ratio_, all_);
+}
+
+Painter::Painter(QPainter& painter, const QRect& area, Typesetter& typesetter)
+    : painter_(painter), typesetter_(typesetter)
+{
+    painter_.save();
+    Begin(area);
+    dirty_ = all_;
+}
+
+Painter::~Painter()
+{
+    if (!own_) {
+        painter_.restore();
+    }
+}
+
+void Painter::Begin(const QRect& area)
 {
     const QTransform toDevice = painter_.deviceTransform();
+    const QTransform device = painter_.worldTransform().inverted() * toDevice;
     ratio_ = toDevice.m11();
     scale_ = ratio_ * PixelsPerTwip;
-    const QPoint corner(NearestPixel(toDevice.dx()), NearestPixel(toDevice.dy()));
-    all_ = QRect(0, 0, NearestPixel(toDevice.dx() + widget.width() * ratio_) - corner.x(),
-                 NearestPixel(toDevice.dy() + widget.height() * ratio_) - corner.y());
-    corner_ = QPointF(toDevice.dx(), toDevice.dy()) - corner;
-    dirty_ = InDevicePixels(region, ratio_, all_);
-    painter_.setWorldTransform(QTransform::fromTranslate(corner.x(), corner.y()) * toDevice.inverted());
+    const QRectF exact = toDevice.mapRect(QRectF(area));
+    const QPoint corner(NearestPixel(exact.x()), NearestPixel(exact.y()));
+    all_ =
+        QRect(0, 0, NearestPixel(exact.right()) - corner.x(), NearestPixel(exact.bottom()) - corner.y());
+    corner_ = exact.topLeft() - corner;
+    painter_.setWorldTransform(QTransform::fromTranslate(corner.x(), corner.y()) * device.inverted());
 }
 
 QRect Painter::RectOf(const Control& control) const
@@ -199,15 +221,24 @@ void Painter::PaintInk(const Ink& ink, QPoint pen, const QRect& within)
 
 void Painter::PaintDrawing(const UserControl& control)
 {
-    const Canvas& canvas = control.Drawing();
     const Point place = control.PlaceOnForm();
     place_ = QPointF(place.x, place.y) * PixelsPerTwip;
+    PaintCanvas(control.Drawing());
+}
+
+void Painter::PaintCanvas(const Canvas& canvas)
+{
     for (const QRect& rect : dirty_) {
         painter_.fillRect(rect, ToQColor(canvas.Background()));
     }
     for (const Canvas::Stroke& stroke : canvas.Strokes()) {
         std::visit([this](const auto& kind) { Paint(kind); }, stroke);
     }
+}
+
+void Painter::Fill(const QColor& colour)
+{
+    painter_.fillRect(all_, colour);
 }
 
 void Painter::PaintBorder(const QColor& colour)
@@ -217,8 +248,29 @@ void Painter::PaintBorder(const QColor& colour)
 
 void Painter::PaintFocus(const QColor& colour)
 {
+    const int distance = Border();
+    FillFrame(all_.adjusted(distance, distance, -distance, -distance), Border(), colour);
+}
+
+void Painter::PaintButtonFocus(const QColor& colour)
+{
     const int distance = 2 * Border() + Border() / 2;
     FillFrame(all_.adjusted(distance, distance, -distance, -distance), Border(), colour);
+}
+
+void Painter::PaintGroup(const Frame& group)
+{
+    constexpr int indent = 8; // logical pixels, as the next
+    constexpr int gap = 2;
+    const Colour ground = group.BackColor();
+    const QColor text = ToQColor(TextColour(ground, group.ForeColor()));
+    const Ink ink = typesetter_.Draw(group.Caption(), group.Font(), text, ratio_);
+    const int line = NearestPixel(ink.lineHeight / 2);
+    FillFrame(all_.adjusted(0, line, 0, 0), Border(), LineOn(ground));
+    const int left = NearestPixel(indent * ratio_);
+    const int around = NearestPixel(gap * ratio_);
+    painter_.fillRect(left - around, line, ink.advance + 2 * around, Border(), ToQColor(ground));
+    PaintInk(ink, {left, ink.ascent}, all_);
 }
 
 void Painter::Paint(const Canvas::Line& line)
@@ -234,7 +286,7 @@ void Painter::Paint(const Canvas::Line& line)
 void Painter::Paint(const Canvas::Shading& shading)
 {
     const QPointF origin =
-        corner_ - (QPointF(widget_.mapTo(widget_.window(), QPoint())) - place_) * ratio_;
+        corner_ - (QPointF(widget_->mapTo(widget_->window(), QPoint())) - place_) * ratio_;
     for (const QRect& rect : dirty_) {
         QImage image(rect.size(), QImage::Format_RGB32);
         for (int y = 0; y < rect.height(); ++y) {

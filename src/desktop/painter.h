@@ -22,18 +22,31 @@ class Painter
 public:
     /// `region` is what has to be painted, in logical pixels.
     Painter(QWidget& widget, const QRegion& region, Typesetter& typesetter);
+    /// Within an area of a widget that `painter` paints on, in its logical pixels. The painter is as
+    /// before when this goes.
+    Painter(QPainter& painter, const QRect& area, Typesetter& typesetter);
+    Painter(const Painter&) = delete;
+    Painter& operator=(const Painter&) = delete;
+    ~Painter();
 
     /// The labels and images of a container, and its ground where none of them covers it: nothing is
     /// painted that another hides. Without a ground, what was painted before shows through.
     void PaintChildren(const Container& container, std::optional<QColor> ground);
     /// What a user control has drawn on itself.
     void PaintDrawing(const UserControl& control);
+    void PaintCanvas(const Canvas& canvas);
+    void Fill(const QColor& colour);
     /// A thin line all round, just inside the widget.
     void PaintBorder(const QColor& colour);
-    /// The mark of the keyboard.
+    /// The mark of the keyboard: a thin line all round, with some of the ground on either side of it.
     void PaintFocus(const QColor& colour);
+    /// The same, inside the edges of a button.
+    void PaintButtonFocus(const QColor& colour);
+    /// The frame of a group with its title written into the upper line.
+    void PaintGroup(const Frame& group);
 
 private:
+    void Begin(const QRect& area);
     QRect RectOf(const Control& control) const;
     int LineStart(Twips position) const;
     int LineEnd(Twips position) const;
@@ -49,15 +62,16 @@ private:
     void Paint(const Canvas::Text& text);
     void Paint(const Canvas::Drawing& drawing);
 
-    QPainter painter_;
+    std::optional<QPainter> own_;
+    QPainter& painter_;
     Typesetter& typesetter_;
-    QWidget& widget_;
-    double ratio_ = 1; ///< pixels of the device per logical pixel
-    double scale_ = 1; ///< pixels of the device per twip
-    QRect all_;        ///< the widget
-    QPointF place_;    ///< of the control on its form, in logical pixels
-    QPointF corner_;   ///< of the widget, from that of its first pixel, in pixels
-    QRegion dirty_;    ///< at least what has to be painted
+    const QWidget* widget_ = nullptr; ///< none when it paints an area
+    double ratio_ = 1;                ///< pixels of the device per logical pixel
+    double scale_ = 1;                ///< pixels of the device per twip
+    QRect all_;                       ///< the widget, or the area
+    QPointF place_;                   ///< of the control on its form, in logical pixels
+    QPointF corner_;                  ///< of all that, from that of its first pixel, in pixels
+    QRegion dirty_;                   ///< at least what has to be painted
 };
 
 /// Draws a picture into a rectangle.

@@ -86,7 +86,7 @@ void Surface::paintEvent(QPaintEvent* event)
         painter.PaintBorder(EdgeOf(user->BackColor(), user->Parent()->BackColor()));
     }
     if (focusByKeyboard_ && hasFocus()) {
-        painter.PaintFocus(ToQColor(TextColour(user->BackColor(), user->ForeColor())));
+        painter.PaintButtonFocus(ToQColor(TextColour(user->BackColor(), user->ForeColor())));
     }
 }
 

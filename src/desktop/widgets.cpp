@@ -16,7 +16,6 @@
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QStyle>
-#include <QStyleFactory>
 #include <QStyleOptionButton>
 
 #include <algorithm>
@@ -27,21 +26,10 @@ namespace tessarine
 namespace
 {
 
-/// Of the chosen row of a list: white reads well on it.
-constexpr QColor Chosen(31, 99, 152);
-
 /// Text on a button is plain text: no letter of it is a shortcut.
 QString Caption(const std::string& caption)
 {
     return ToText(caption).replace(QLatin1Char('&'), QLatin1String("&&"));
-}
-
-/// The style that draws in the very colours that it is given.
-void WearPlainStyle(QWidget& widget)
-{
-    QStyle* const plain = QStyleFactory::create(QStringLiteral("windows"));
-    plain->setParent(&widget);
-    widget.setStyle(plain);
 }
 
 class FrameWidget final : public QGroupBox, public NativePeer
@@ -51,7 +39,6 @@ public:
         : QGroupBox(&parent), NativePeer(*this, frame, desk)
     {
         setAutoFillBackground(true);
-        WearPlainStyle(*this); // it writes the title into the line: all of the frame is for controls
     }
 
 protected:
@@ -64,10 +51,11 @@ protected:
     }
     void paintEvent(QPaintEvent* event) override
     {
-        QGroupBox::paintEvent(event);
         if (TheControl() != nullptr) {
+            const auto& frame = *static_cast<Frame*>(TheControl());
             Painter painter(*this, event->region(), TheDesk().typesetter);
-            painter.PaintChildren(*static_cast<Frame*>(TheControl()), std::nullopt);
+            painter.PaintGroup(frame);
+            painter.PaintChildren(frame, std::nullopt);
         }
     }
 };
@@ -88,7 +76,6 @@ public:
         : QPushButton(&parent), NativePeer(*this, button, desk)
     {
         setAutoDefault(true); // Enter presses it when it has the keyboard
-        WearPlainStyle(*this);
         QObject::connect(this, &QPushButton::clicked, this, [this] { Released(LeftButton); });
     }
 
@@ -99,6 +86,10 @@ protected:
         if (text() != caption) {
             setText(caption);
         }
+    }
+    void Mix(QPalette& palette) const override
+    {
+        palette.setColor(QPalette::Window, ToQColor(TheControl()->Parent()->BackColor()));
     }
     void mousePressEvent(QMouseEvent* event) override
     {
@@ -123,7 +114,7 @@ private:
 
 /// An option button or a check box. The widget never turns itself: the control does, and the widget
 /// follows.
-template <class Button, class Of, void (Of::*Work)(int)>
+template <class Button, class Of, void (Of::*Work)(int), QStyle::SubElement Contents>
 class TurnedByControl final : public Button, public NativePeer
 {
 public:
@@ -161,7 +152,12 @@ protected:
     {
         Button::paintEvent(event);
         if (this->hasFocus()) {
-            PaintFocus(*this);
+            QStyleOptionButton option;
+            initStyleOption(&option);
+            const QRect words = this->style()->subElementRect(Contents, &option, this);
+            QPainter painter(this);
+            Painter(painter, words.adjusted(-4, 0, 0, 0), TheDesk().typesetter)
+                .PaintFocus(this->palette().color(QPalette::WindowText));
         }
     }
     void mouseReleaseEvent(QMouseEvent* event) override
@@ -207,13 +203,6 @@ protected:
             setValue(Turned(Bar().Value()));
         }
     }
-    void paintEvent(QPaintEvent* event) override
-    {
-        QScrollBar::paintEvent(event);
-        if (this->hasFocus()) {
-            PaintFocus(*this);
-        }
-    }
 
 private:
     ScrollBar& Bar() const { return *static_cast<ScrollBar*>(TheControl()); }
@@ -231,13 +220,6 @@ template <class Of> Of& As(Control& control)
 
 } // namespace
 
-void PaintFocus(QWidget& widget)
-{
-    QPainter painter(&widget);
-    painter.setPen(widget.palette().color(QPalette::WindowText));
-    painter.drawRect(widget.rect().adjusted(0, 0, -1, -1));
-}
-
 void NativePeer::RefreshContents()
 {
     const Control& control = *TheControl();
@@ -245,15 +227,8 @@ void NativePeer::RefreshContents()
     if (const QFont font = WidgetFont(control.Font()); widget.font() != font) {
         widget.setFont(font);
     }
-    const QColor ground = ToQColor(control.BackColor());
-    const QColor text = ToQColor(TextColour(control.BackColor(), control.ForeColor()));
-    QPalette palette(ground, ground);
-    for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
-        palette.setColor(role, text);
-    }
-    palette.setColor(QPalette::Base, ground);
-    palette.setColor(QPalette::Highlight, Chosen);
-    palette.setColor(QPalette::HighlightedText, Qt::white);
+    const Colour ground = control.BackColor();
+    QPalette palette = PaletteOf(ground, TextColour(ground, control.ForeColor()), ground);
     Mix(palette);
     if (widget.palette() != palette) {
         widget.setPalette(palette);
@@ -277,12 +252,13 @@ Peer* MakePeer(Control& control, QWidget& parent, Desk& desk)
         made = new PushButtonWidget(As<PushButton>(control), parent, desk);
         break;
     case ControlKind::OptionButton:
-        made = new TurnedByControl<QRadioButton, OptionButton, &OptionButton::UserPicks>(
-            As<OptionButton>(control), parent, desk);
+        made =
+            new TurnedByControl<QRadioButton, OptionButton, &OptionButton::UserPicks,
+                                QStyle::SE_RadioButtonContents>(As<OptionButton>(control), parent, desk);
         break;
     case ControlKind::CheckBox:
-        made = new TurnedByControl<QCheckBox, CheckBox, &CheckBox::UserToggles>(As<CheckBox>(control),
-                                                                                parent, desk);
+        made = new TurnedByControl<QCheckBox, CheckBox, &CheckBox::UserToggles,
+                                   QStyle::SE_CheckBoxContents>(As<CheckBox>(control), parent, desk);
         break;
     case ControlKind::ScrollBar:
         made = new ScrollBarWidget(As<ScrollBar>(control), parent, desk);

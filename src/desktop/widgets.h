@@ -16,9 +16,6 @@ Peer* MakeList(ListBox& list, QWidget& parent, Desk& desk);
 Peer* MakeTextBox(TextBox& box, QWidget& parent, Desk& desk);
 Peer* MakeBrowser(Browser& browser, QWidget& parent, Desk& desk);
 
-/// Draws the mark of the keyboard round a widget.
-void PaintFocus(QWidget& widget);
-
 /// What is common to all of them: font, colours, whether they are enabled.
 class NativePeer : public Peer
 {

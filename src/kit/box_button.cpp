@@ -1,38 +1,12 @@
 #include "kit/box_button.h"
 
+#include "runtime/button_look.h"
 #include "runtime/contrast.h"
 #include "runtime/form.h"
 #include "runtime/platform.h"
 
 namespace tessarine
 {
-namespace
-{
-
-/// How far the dark edges stand in from the right and the lower side.
-constexpr Twips EdgeInset = 20;
-/// How far a picture stands left of and above the middle.
-constexpr Twips PictureShift = 24;
-/// Twips that a hundredth of a millimetre counts for, in whole steps.
-constexpr double TwipsPerHundredth = 0.5;
-
-/// A side of the canvas inside the border that a pressed button shows.
-Twips InnerSide(const UserControl& control, Twips side)
-{
-    return control.HasBorder() ? side - 2 * TwipsPerPixel : side;
-}
-
-void DrawEdges(Canvas& canvas, Twips width, Twips height)
-{
-    const Twips right = width - EdgeInset;
-    const Twips bottom = height - EdgeInset;
-    canvas.DrawLine({0, 0}, {0, height}, White);
-    canvas.DrawLine({0, 0}, {width, 0}, White);
-    canvas.DrawLine({right, EdgeInset}, {right, bottom}, Black);
-    canvas.DrawLine({EdgeInset, bottom}, {right, bottom}, Black);
-}
-
-} // namespace
 
 BoxControl::BoxControl()
 {
@@ -71,31 +45,20 @@ void BoxControl::MouseTaken()
     UserControl::MouseTaken();
 }
 
-void BoxControl::DrawBox(Canvas& canvas) const
-{
-    DrawCaption(canvas);
-    DrawEdges(canvas, Width(), Height());
-    if (picture_ == nullptr) {
-        return;
-    }
-    const Twips side = picture_->HundredthsOfMillimetre() * TwipsPerHundredth;
-    canvas.Paint({(InnerSide(*this, Width()) - side) / 2 - PictureShift,
-                  (InnerSide(*this, Height()) - side) / 2 - PictureShift},
-                 *picture_);
-}
-
-void BoxControl::DrawCaption(Canvas& canvas) const
+void BoxControl::Draw(Canvas& canvas) const
 {
     const Form* form = OwnerForm();
-    if (caption_.empty() || form == nullptr) {
-        return;
-    }
-    Platform& platform = form->platform();
-    // The height of one capital, whatever the caption: captions of a row share one line.
-    const Whole width = RoundHalfEven(platform.TextSize(Font(), caption_).width);
-    const Whole height = RoundHalfEven(platform.TextSize(Font(), "W").height);
-    canvas.Print({(Width() - width) / 2, (InnerSide(*this, Height()) - height) / 2}, caption_, Font(),
-                 TextColour(BackColor(), ForeColor()));
+    DrawButton(canvas,
+               {{Width(), Height()},
+                BackColor(),
+                TextColour(BackColor(), ForeColor()),
+                form == nullptr ? std::string() : caption_,
+                Font(),
+                picture_,
+                HasBorder()},
+               [form](const tessarine::Font& font, std::string_view text) {
+                   return form->platform().TextSize(font, text);
+               });
 }
 
 } // namespace tessarine

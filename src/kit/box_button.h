@@ -27,13 +27,10 @@ public:
     void MouseTaken() override;
 
 protected:
-    void Draw(Canvas& canvas) const override { DrawBox(canvas); }
+    void Draw(Canvas& canvas) const override;
     std::string ShownText() const override { return caption_; }
 
 private:
-    void DrawBox(Canvas& canvas) const;
-    void DrawCaption(Canvas& canvas) const;
-
     std::string caption_;
     const Picture* picture_ = nullptr;
 };

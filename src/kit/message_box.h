@@ -23,8 +23,8 @@ public:
     explicit MsgForm(Forms& forms);
 
     /// Settings of the form, handed on to its label and buttons at every call. The background is the
-    /// form's BackColor, the text colour its ForeColor, the font its Font.
-    Colour ButtonColour = ButtonFace;
+    /// form's BackColor, the text colour its ForeColor, the font its Font, and that of the buttons its
+    /// ButtonColour.
 
     /// Shows the message with the icon and the buttons that the style names (keywords joined by "+",
     /// such as "vbquestion+vbyesno") and returns the number of the button pressed. A colour of -1

@@ -80,6 +80,10 @@ public:
     void SetClientArea(Size wanted);
     void SetOuterWidth(Twips wanted) { SetClientArea({wanted - FrameWidth, Height()}); }
 
+    /// What the buttons wear on boxes of the system that belong to the form. The rest of such a box is
+    /// in the form's own colour.
+    Colour ButtonColour = ButtonFace;
+
     /// How the window is made; set before the first Show.
     bool Sizable = false;
     bool HasCloseBox = true;

@@ -41,7 +41,7 @@ struct AppearanceWorld {
         dialog.FillSchemeList();
         command2.MouseUp = [this](const MouseEvent&) {
             store.ReadScheme(module.SchemeFile);
-            ApplyScheme(module, {{&table}, {&tableButton}, messageBox});
+            ApplyScheme(module, {{&table}, {&tableButton}, messageBox, dialog});
         };
     }
 

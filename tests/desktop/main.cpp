@@ -1,3 +1,5 @@
+#include "desktop/dress_style.h"
+
 #include <QApplication>
 #include <QTemporaryFile>
 
@@ -23,7 +25,7 @@ int main(int argc, char* argv[])
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
         Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     QCoreApplication::setAttribute(Qt::AA_Use96Dpi);
-    QApplication::setStyle(QStringLiteral("fusion"));
+    QApplication::setStyle(new tessarine::DressStyle);
     testing::InitGoogleTest(&argc, argv);
     const QApplication application(argc, argv);
     QGuiApplication::setQuitOnLastWindowClosed(false);

@@ -3,6 +3,8 @@
 #include "stage.h"
 #include "support/seen_contrast.h"
 
+#include <QPushButton>
+
 #include <deque>
 #include <map>
 #include <set>
@@ -162,6 +164,91 @@ TEST_F(PaintingTest, AClickTakesTheColourThatItsPixelShows)
     EXPECT_TRUE(inBar.contains(Pixel(Black)) && inBar.contains(Pixel(base))) << "both ends can be seen";
 }
 
+double ContrastOf(QRgb one, QRgb other)
+{
+    return SeenContrast({qRed(one), qGreen(one), qBlue(one)},
+                        {qRed(other), qGreen(other), qBlue(other)});
+}
+
+/// How wide each line is that the way from a place crosses, up to the middle of the image.
+std::vector<int> LinesOnWay(const QImage& image, QPoint from, QPoint step, QRgb ground, double visible)
+{
+    std::vector<int> lines(1);
+    for (QPoint at = from; at != image.rect().center(); at += step) {
+        const QRgb pixel = image.pixel(at);
+        if (pixel != ground) {
+            ++lines.back();
+            EXPECT_GE(ContrastOf(pixel, ground), visible) << "on " << std::hex << ground;
+        } else if (lines.back() > 0) {
+            lines.push_back(0);
+        }
+    }
+    lines.pop_back();
+    return lines;
+}
+
+TEST_F(PaintingTest, FramesAndMarksAreSeenOnEveryGroundAndEvenAtEveryScale)
+{
+    Frame frame;
+    ListBox list;
+    TextBox text;
+    OptionButton option;
+    const std::vector<Control*> controls = {&frame, &list, &text, &option};
+    for (Control* control : controls) {
+        control->SetBounds(155, 200 + (control == &frame ? 0.0 : 1055), 995, 845);
+    }
+    Show({&frame, &list, &text, &option});
+    for (const Colour ground : {Black, White, Rgb(117, 117, 117), Rgb(255, 0, 0), Rgb(0, 0, 255)}) {
+        for (Control* control : controls) {
+            control->SetBackColor(ground);
+            control->BringToFront();
+            Events();
+            if (control->TakesFocus()) {
+                WidgetOf(platform, *control).setFocus();
+            }
+            const std::size_t lines = control == &list ? 2 : 1; // frame and mark
+            for (const double scale : Scales) {
+                const QImage shown = Shown(*control, scale);
+                const QPoint middle = shown.rect().center();
+                const auto way = [&](QPoint from, QPoint step) {
+                    return LinesOnWay(shown, from, step, Pixel(ground), 3);
+                };
+                const std::vector<int> wanted(lines, NearestPixel(scale));
+                EXPECT_EQ(way({middle.x(), shown.height() - 1}, {0, -1}), wanted) << scale;
+                EXPECT_EQ(way({shown.width() - 1, middle.y()}, {-1, 0}), wanted) << scale;
+                if (control != &option) {
+                    EXPECT_EQ(way({0, middle.y()}, {1, 0}), wanted) << scale;
+                    EXPECT_EQ(way({middle.x(), 0}, {0, 1}), wanted) << scale;
+                }
+            }
+        }
+    }
+}
+
+TEST_F(PaintingTest, AButtonOfTheToolkitLooksLikeOneOfTheProgram)
+{
+    BoxControl box;
+    PushButton button;
+    const auto bothAlike = [&](const char* state) {
+        Events();
+        for (const double scale : Scales) {
+            EXPECT_EQ(Shown(button, scale), Shown(box, scale)) << state << " at " << scale;
+        }
+    };
+    const auto furnish = [](auto& control, Twips top) {
+        control.SetCaption("Wide & Fair");
+        control.SetBounds(300, top, 1095, 375);
+        control.SetBackColor(Face);
+    };
+    furnish(box, 300), furnish(button, 900);
+    form.TakesKeys = false;
+    Show({&button, &box});
+    bothAlike("up");
+    box.MousePressed({});
+    Native<QPushButton>(button).setDown(true);
+    bothAlike("down");
+}
+
 /// The contrast of the colour that stands out most to the one that there is most of, near the middle.
 double ContrastOfText(const QImage& image)
 {
@@ -174,8 +261,7 @@ double ContrastOfText(const QImage& image)
     const QRgb ground = std::ranges::max_element(counts, {}, &std::pair<const QRgb, int>::second)->first;
     double best = 1;
     for (const auto& [pixel, count] : counts) {
-        best = std::max(best, SeenContrast({qRed(pixel), qGreen(pixel), qBlue(pixel)},
-                                           {qRed(ground), qGreen(ground), qBlue(ground)}));
+        best = std::max(best, ContrastOf(pixel, ground));
     }
     return best;
 }
