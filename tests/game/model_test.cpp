@@ -275,7 +275,8 @@ struct Model {
                         << card;
                     EXPECT_EQ(shown.Caption(), isOpen ? std::to_string(card % 10) : "") << card;
                     EXPECT_EQ(shown.Font().underline, stack >= 15) << card;
-                    EXPECT_EQ(shown.BackColor(), isOpen ? world.form.shared.SuitColor[card / 10]
+                    EXPECT_EQ(shown.BackColor(), isOpen ? world.form.shared.SuitColor.at(
+                                                              static_cast<std::size_t>(card) / 10)
                                                         : world.form.shared.Button())
                         << card;
                 }
