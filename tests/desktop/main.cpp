@@ -1,11 +1,26 @@
 #include "desktop/dress_style.h"
+#include "stage.h"
 
-#include <QApplication>
 #include <QTemporaryFile>
 
-#include <gtest/gtest.h>
+namespace
+{
 
-#include <cstdlib>
+class Watch : public QObject
+{
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        const auto* const box = qobject_cast<QWidget*>(watched);
+        if (event->type() == QEvent::Show && box != nullptr && box->isWindow() && box->isModal() &&
+            tessarine::usersWaiting == 0) {
+            tessarine::EndAt(*box, "Nobody expects this box");
+        }
+        return false;
+    }
+};
+
+} // namespace
 
 int main(int argc, char* argv[])
 {
@@ -29,5 +44,7 @@ int main(int argc, char* argv[])
     testing::InitGoogleTest(&argc, argv);
     const QApplication application(argc, argv);
     QGuiApplication::setQuitOnLastWindowClosed(false);
+    Watch watch;
+    qApp->installEventFilter(&watch);
     return RUN_ALL_TESTS();
 }

@@ -129,6 +129,44 @@ TEST_F(PaintingTest, ADigitIsNeverCutOff)
     }
 }
 
+/// Of cards that overlap, each point shows the one in front; a digit stands in the middle.
+TEST_F(PaintingTest, WhatLiesInFrontIsSeenAndADigitIsInTheMiddle)
+{
+    for (int i = 0; i < 6; ++i) {
+        AddLabel(300 + 105 * (i % 3), 300 + 135 * (i % 4), Rgb(30 * i, 90, 250 - 40 * i))
+            .SetBorder(false);
+    }
+    Show({&surface});
+    for (const int toFront : {0, 2, 0, 4}) {
+        labels[static_cast<std::size_t>(toFront)].BringToFront();
+        Events();
+        const QImage shown = WidgetOf(platform, surface).grab().toImage();
+        const QRect wrong = Differing(shown, [&](QPoint at) {
+            const Control* const front = surface.FrontMostAt(at.x() * 15 + 7, at.y() * 15 + 7);
+            return front == nullptr ? Ground : front->BackColor();
+        });
+        EXPECT_TRUE(wrong.isEmpty()) << wrong.x() << ", " << wrong.y();
+    }
+    std::deque<BoxButton> buttons(2);
+    for (BoxButton& button : buttons) {
+        button.SetBounds(1500, 1500, 600, 300);
+        surface.Add(button);
+    }
+    for (BoxButton* toFront : {&buttons[0], &buttons[1], &buttons[0]}) {
+        toFront->BringToFront();
+        Events();
+        EXPECT_EQ(WidgetOf(platform, surface).childAt(110, 110), &WidgetOf(platform, *toFront));
+    }
+    Label& digit = AddLabel(2000, 300, Black);
+    digit.SetFont({.name = "Arial", .size = 13, .bold = true});
+    digit.SetCaption("8");
+    for (const double scale : Scales) {
+        const QRect inside = InsideBorder(PixelsOf(digit, scale), scale);
+        const QRect ink = Differing(Shown(surface, scale).copy(inside), [](QPoint) { return Black; });
+        EXPECT_NEAR(ink.left(), inside.width() - 1 - ink.right(), 1 + scale) << scale;
+    }
+}
+
 /// Runs at several scale factors of the whole program.
 TEST_F(PaintingTest, AClickTakesTheColourThatItsPixelShows)
 {

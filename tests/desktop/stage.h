@@ -9,6 +9,7 @@
 #include <QAbstractScrollArea>
 #include <QApplication>
 #include <QImage>
+#include <QMessageBox>
 #include <QPaintEvent>
 #include <QScrollBar>
 #include <QTemporaryDir>
@@ -18,6 +19,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdio>
+#include <cstdlib>
 #include <fstream>
 
 namespace tessarine
@@ -90,14 +93,36 @@ protected:
     }
 };
 
-/// Runs `user` as soon as the next modal window is open.
-inline void WhenModal(std::function<void()> user)
+/// How many users wait for a modal window. One that nobody waits for, or that stays when its user has
+/// done, ends the test program with its name: it would stand there for ever.
+inline int usersWaiting = 0;
+
+[[noreturn]] inline void EndAt(const QWidget& box, const char* trouble)
 {
-    QTimer::singleShot(2, qApp, [user = std::move(user), before = QApplication::activeModalWidget()] {
-        if (QApplication::activeModalWidget() == before) {
-            WhenModal(user);
-        } else {
-            user();
+    const auto* const message = qobject_cast<const QMessageBox*>(&box);
+    std::fprintf(stderr, "%s: \"%s\" %s\n", trouble, qPrintable(box.windowTitle()),
+                 message == nullptr ? "" : qPrintable(message->text()));
+    std::_Exit(EXIT_FAILURE);
+}
+
+/// Runs `user` as soon as the next modal window is open.
+inline void WhenModal(std::function<void()> user,
+                      const QWidget* before = QApplication::activeModalWidget())
+{
+    ++usersWaiting;
+    QTimer::singleShot(2, qApp, [user = std::move(user), before] {
+        --usersWaiting;
+        const QPointer<QWidget> box = QApplication::activeModalWidget();
+        if (box == before) {
+            return WhenModal(user, before);
+        }
+        user();
+        if (box) {
+            QTimer::singleShot(10'000, box, [box] {
+                if (box->isVisible() && box->isModal()) {
+                    EndAt(*box, "This box stays open");
+                }
+            });
         }
     });
 }

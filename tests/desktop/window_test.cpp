@@ -59,11 +59,24 @@ TEST_F(WindowTest, AFormMayTakeNoKeysAndTheCloseBoxAsksIt)
     Show({});
     Type({Qt::Key_Tab, Qt::Key_Space, Qt::Key_Return, Qt::Key_Escape});
     EXPECT_EQ(pressed, nullptr);
+    EXPECT_FALSE(platform.WindowOf(form)->windowFlags().testFlag(Qt::WindowCloseButtonHint));
     platform.WindowOf(form)->close();
     EXPECT_TRUE(form.IsShown());
     form.HasCloseBox = true;
     platform.WindowOf(form)->close();
     EXPECT_FALSE(form.IsShown() || platform.WindowOf(form)->isVisible());
+}
+
+TEST_F(WindowTest, TellsItsNameAndWhichKeysAreHeldAtAPress)
+{
+    std::vector<int> held;
+    first.MouseDown = [&](const MouseEvent& event) { held.push_back(event.shift); };
+    Show({});
+    EXPECT_EQ(platform.WindowOf(form)->windowTitle(), "test");
+    for (const auto key : {Qt::ShiftModifier, Qt::ControlModifier, Qt::AltModifier}) {
+        QTest::mouseClick(platform.WindowOf(form)->windowHandle(), Qt::LeftButton, key, {5, 5});
+    }
+    EXPECT_EQ(held, (std::vector<int>{1, 2, 4}));
 }
 
 TEST_F(WindowTest, ALostReleaseDoesNotHoldTheMouseForEver)
