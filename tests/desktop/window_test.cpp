@@ -19,8 +19,9 @@ protected:
     {
         first.SetBounds(0, 0, 900, 350);
         second.SetBounds(1500, 0, 900, 350);
+        third.SetBounds(3000, 0, 900, 350);
         form.CancelControl = &second;
-        for (BoxButton* button : {&first, &second}) {
+        for (BoxButton* button : {&first, &second, &third}) {
             button->MouseUp = [this, button](const MouseEvent&) {
                 pressed = button;
                 form.Hide();
@@ -37,6 +38,7 @@ protected:
 
     BoxButton first;
     BoxButton second;
+    BoxButton third;
     const BoxButton* pressed = nullptr;
 };
 
