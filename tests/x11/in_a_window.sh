@@ -7,7 +7,7 @@ here=$(dirname "$(readlink -f "$0")")
 test_case=$1 out=${!#}/$1
 limit=20 # seconds for anything that the program should do soon
 scale=1  # screen pixels to a logical pixel
-window='' pid='' box='' started=()
+window='' pid='' box='' started=() runner=()
 
 fail() {
     printf '%s\n' "FAILED: $1" "${@:2}" "${box:+the last box was: $(xdotool getwindowname "$box" 2>&1)}"
@@ -24,11 +24,15 @@ soon() { # WHAT COMMAND...: waits until the command holds
 
 open_display() { # a display of our own with a window manager on it
     local number
-    type Xvfb openbox xdotool wmctrl xwininfo xwd convert import >/dev/null || exit 77 # skipped
+    type Xvfb xdotool xwininfo xwd convert import >/dev/null || exit 77 # skipped
     mkfifo "$home/number"
     Xvfb -displayfd 5 -screen 0 1280x1400x24 -noreset -nolisten tcp 5<>"$home/number" >"$home/xvfb" 2>&1 & started+=($!)
     read -r -t "$limit" number <>"$home/number" || fail "the display did not start"
     export DISPLAY=:$number
+    manage_windows
+}
+manage_windows() {
+    type openbox wmctrl >/dev/null || exit 77
     openbox >"$home/openbox" 2>&1 & started+=($!)
     soon "a window manager" wmctrl -m >/dev/null 2>&1
     sleep 0.5 # it says that it is there before it is, and may sleep over a window that comes meanwhile
@@ -39,7 +43,7 @@ main_window_is_open() { window=$(windows_of_program | head -n 1) && [ -n "$windo
 box_is_open() { box=$(windows_of_program | grep -vx "${window:-none}" | head -n 1) && [ -n "$box" ]; }
 program_is_gone() { ! kill -0 "$pid" 2>/dev/null; }
 start_program() {
-    (cd "$program" && exec ./tessarine) >"$out/program.log" 2>&1 & pid=$! && started+=("$pid")
+    (cd "$program" && exec "${runner[@]}" ./tessarine) >"$out/program.log" 2>&1 & pid=$! && started+=("$pid")
     [ -f "$program/tessarine.cfg" ] || answer 1 1 # on the first day a notice says so
     soon "the main window" main_window_is_open
 }
@@ -47,14 +51,15 @@ ends_well() { soon "the program ends" program_is_gone && { wait "$pid" || fail "
 close_window() { wmctrl -i -c "$window" && ends_well; }
 
 # The hand; positions in logical pixels of the client area.
+to() { echo "mousemove --window $1 $2 $3"; } # window, and screen pixels in it
 press() { # x y button times
-    xdotool mousemove --window "$window" $(($1 * scale)) $(($2 * scale)) sleep 0.02 click --repeat "$4" --delay 60 "$3"
+    xdotool $(to "$window" $(($1 * scale)) $(($2 * scale))) sleep 0.02 click --repeat "$4" --delay 60 "$3"
 }
 command_button() { press $((14 + 24 * $1)) 14 1 1; } # counted from the left, from 0
 drag() { # from x, y to x, y
-    xdotool mousemove --window "$window" $(($1 * scale)) $(($2 * scale)) sleep 0.02 mousedown 1 sleep 0.02 \
-        mousemove --window "$window" $((($1 + $3) * scale / 2)) $((($2 + $4) * scale / 2)) sleep 0.02 \
-        mousemove --window "$window" $(($3 * scale)) $(($4 * scale)) sleep 0.05 mouseup 1
+    xdotool $(to "$window" $(($1 * scale)) $(($2 * scale))) sleep 0.02 mousedown 1 sleep 0.02 \
+        $(to "$window" $((($1 + $3) * scale / 2)) $((($2 + $4) * scale / 2))) sleep 0.02 \
+        $(to "$window" $(($3 * scale)) $(($4 * scale))) sleep 0.05 mouseup 1
 }
 
 # The client area's width and height of a window, and its colours at the places of a format.
@@ -76,7 +81,7 @@ box_shows_buttons() {
 box_has_changed() { ! box_shows_buttons "$1"; }
 answer() { # n of: presses the n-th of so many buttons of the message box that must come up
     soon "a message box with $2 buttons" box_shows_buttons "$2"
-    xdotool mousemove --window "$box" $((row_left + (2 * $1 - 1) * 59 * scale / 2)) "$row_middle" sleep 0.02 click 1
+    xdotool $(to "$box" $((row_left + (2 * $1 - 1) * 59 * scale / 2)) "$row_middle") sleep 0.02 click 1
     soon "the message box takes its answer" box_has_changed "$2"
 }
 
@@ -175,6 +180,45 @@ game() {
     cmp <(sed -E '1s/^([0-9]{2}-){2}[0-9]{4} ([0-9]{2}:){2}[0-9]{2}\r$/now\r/' "$program/tessarine.cfg") \
         <(printf 'now\r\n%s' "$settings") || fail "the configuration is not written as it was read"
 }
+
+# The same under the reference compositor of Wayland, nested in the display: it gets the mouse, and says
+# itself what stands where. It puts windows at random places.
+wayland() { # CASE...
+    type weston weston-debug >/dev/null || exit 77
+    manage_windows() {
+        printf '[shell]\n%s\n' panel-position=none locking=false startup-animation=none close-animation=none \
+            animation=none background-color=0xff102030 >"$home/weston.ini"
+        weston --debug --backend=x11-backend.so --use-pixman --scale="$scale" --width=$((1280 / scale)) \
+            --height=$((1400 / scale)) --idle-time=0 -S nested -c "$home/weston.ini" >"$out/weston.log" 2>&1 & started+=($!)
+        export WAYLAND_DISPLAY=nested QT_QPA_PLATFORM=wayland
+        runner=(env -u DISPLAY)
+        soon "the compositor" eval "weston-debug scene-graph 2>/dev/null | grep -q background"
+    }
+    # Of every window, front-most first: its number, and place and size of its client area. That is the
+    # part told to be opaque; a window that comes up again tells none, and has the toolkit's frame.
+    toplevels() {
+        weston-debug scene-graph | awk -v "pid=PID $pid," '/^\tView/ { number = "" }
+            /role xdg_toplevel/ && index($0, pid) { sub(/.*surface ID /, ""); number = $0 + 0 }
+            !number { next }
+            /position:/ { gsub(/[^0-9]+/, " "); split($0, p, " "); p[1] += 3; p[2] += 30; p[3] -= 3; p[4] -= 3 }
+            /[[]opaque:/ { gsub(/[^0-9]+/, " "); split($0, p, " ") }
+            /outputs:/ { print number, p[1], p[2], p[3] - p[1], p[4] - p[2] }'
+    }
+    place_of() { toplevels | awk -v "number=$1" -v "scale=$scale" '$1 == number { print $2 * scale, $3 * scale, $4 * scale, $5 * scale }'; }
+    windows_of_program() { toplevels | cut -d ' ' -f 1; }
+    to() { place_of "$1" | awk -v x="$2" -v y="$3" '{ print "mousemove", $1 + x, $2 + y }'; }
+    size_of() { place_of "$1" | cut -d ' ' -f 3-; }
+    pixels_of() {
+        local area
+        area=$(place_of "$1" | awk '{ print $3 "x" $4 "+" $1 "+" $2 }')
+        xdotool mousemove 1279 1399 # the pointer is part of the picture
+        xwd -silent -root | convert xwd:- -crop "$area" +repage -depth 8 -type TrueColor -format "$2" info:
+    }
+    "$@"
+}
+wayland_game() { wayland game; }
+wayland_game_at_200_percent() { scale=2 && wayland game; }
+
 game_at_200_percent() { scale=2 && export QT_SCALE_FACTOR=2 && game; } # on a screen of twice as many pixels
 
 game_by_ear() { # a reader on a bus of its own presses the buttons, and knows the table from hearing
