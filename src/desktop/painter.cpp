@@ -188,7 +188,8 @@ void Painter::PaintLabel(const Label& label)
 
 void Painter::PaintText(const Label& label, const QRect& inside)
 {
-    const QColor colour = ToQColor(TextColour(label.BackColor(), label.ForeColor()));
+    const Control& ground = label.IsOpaque() ? static_cast<const Control&>(label) : *label.Parent();
+    const QColor colour = ToQColor(TextColour(ground.BackColor(), label.ForeColor()));
     const std::vector<std::string> lines = LinesOf(label.Caption());
     double top = 0;
     for (const std::string& line : lines) {

@@ -336,6 +336,11 @@ TEST_F(PaintingTest, TextOfNoFixedColourCanBeReadOnEveryGround)
             EXPECT_GE(ContrastOfText(Shown(shown, 1)), ReadableContrast)
                 << static_cast<int>(control->Kind()) << " on " << ground;
         }
+        label.SetOpaque(false); // what it stands on is its ground then
+        label.SetBackColor(ButtonFace);
+        surface.SetBackColor(ground);
+        EXPECT_GE(ContrastOfText(Shown(surface, 1)), ReadableContrast) << "clear on " << ground;
+        label.SetOpaque(true);
     }
 }
 
