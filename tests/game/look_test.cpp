@@ -14,7 +14,7 @@ namespace
 
 /// The controls on a form: words, left, top, width and height, and a font or a text colour that is not
 /// the usual one; in brackets what stands on a control. The cards have tests of their own.
-void Look(const Container& on, std::vector<std::string>& look)
+void Look(const Container& on, const Dress& dress, std::vector<std::string>& look)
 {
     for (const Control* control : on.Children()) {
         const auto* const box = dynamic_cast<const Container*>(control);
@@ -29,6 +29,10 @@ void Look(const Container& on, std::vector<std::string>& look)
         words.erase(0, words.find_first_not_of(' '));
         words.erase(words.find_last_not_of(' ') + 1);
         text << (words.empty() ? "-" : words);
+        const auto* const option = dynamic_cast<const OptionButton*>(control);
+        if (option != nullptr && option->Caption() != words) {
+            text << " = " << option->Caption();
+        }
         for (const Twips number :
              {control->Left(), control->Top(), control->Width(), control->Height()}) {
             text << ' ' << number;
@@ -39,10 +43,20 @@ void Look(const Container& on, std::vector<std::string>& look)
         if (const Colour colour = control->ForeColor(); colour > 0) {
             text << " #" << std::hex << colour;
         }
-        look.push_back(text.str());
+        if (const Colour colour = control->BackColor(); colour == dress.Button()) {
+            text << " b";
+        } else if (colour != dress.Background()) {
+            text << " on " << std::hex << colour;
+        }
+        if (!control->ToolTip().empty() && control->ToolTip() != words) {
+            text << " ~ " << control->ToolTip();
+        }
+        std::string line = text.str();
+        std::ranges::replace(line, ';', ',');
+        look.push_back(line);
         if (box != nullptr && !box->Children().empty()) {
             look.emplace_back("[");
-            Look(*box, look);
+            Look(*box, dress, look);
             look.emplace_back("]");
         }
     }
@@ -51,45 +65,60 @@ void Look(const Container& on, std::vector<std::string>& look)
 TEST(LookTest, EveryControlHasItsWordsAndItsPlace)
 {
     std::istringstream expected(R"(
-Tessarine; Load Saved Game 30 30 360 360; Save Game 390 30 360 360; Scores 750 30 360 360; Options 1110
-30 360 360; New Game 1470 30 360 360; Restore current game 1830 30 360 360; About 2190 30 360 360; Help
-2550 30 360 360; Exit 2910 30 360 360; Undo 3270 30 360 360; Table 30 450 3905 7115; [; Turn the stock
-back 445 193.75 202.5 202.5; Turn the stock 647.5 193.75 202.5 202.5; Scores 450 690 3795 2985; [;
-tessarine Scores 60 60 3675 2865; [; Played 90 600 1005 225 Arial 9 bold #ffffff; Won 90 855 1005 255
-Arial 9 bold #ffffff; Drawn 90 1140 1005 255 Arial 9 bold #ffffff; Lost 90 1425 1005 255 Arial 9 bold
-#ffffff; This Session 1215 300 1275 255 Arial 9 bold #ffffff; Total 2565 300 1005 255 Arial 9 bold
-#ffffff; Played this session: 0 1215 600 900 255 Courier New 9; Played total: 0 2565 600 900 255
-Courier New 9; Won this session: 0 1215 885 900 255 Courier New 9; Won total: 0 2565 885 900 255
-Courier New 9; Drawn this session: 0 1215 1170 900 255 Courier New 9; Drawn total: 0 2565 1170 900 255
-Courier New 9; Lost this session: 0 1215 1455 900 255 Courier New 9; Lost total: 0 2565 1455 900 255
-Courier New 9; Last Update: 14Mar2008 90 1890 3465 345 Courier New 9; Close 750 2340 1095 405; Clear
-1845 2340 1095 405; ]; ]; ]; Tessarine Options; Colour Scheme 60 60 4335 3210; [; Background colour 150
-270 2025 1635; [; Background colour: Red 1050 25 250 1126; Background colour: Green 1395 25 250 1126;
-Background colour: Blue 1725 25 250 1126; - 1065 1170 225 195 Arial 7; - 1395 1170 225 195 Arial 7; -
-1755 1170 225 195 Arial 7; 192 1050 1380 270 210 Arial 7 #ff; 192 1380 1380 285 210 Arial 7 #c000; 192
-1725 1380 270 210 Arial 7 #ff0000; Selected 60 1380 645 165 Arial 7; - 788 1380 225 195 Arial 7; ];
-Contrast 106 2010 2064 228; View 60 2340 1005 375; Replace 1110 2340 1005 375; Delete 60 2715 1005 375;
-Add 1110 2715 1005 375; Colour schemes 2295 240 1920 2805 Courier New 8.25; ]; Sound 2370 3300 2025
-825; [; Sound: yes 270 330 1425 285; ]; Apply 210 3540 1005 375; Exit 1215 3540 1005 375; Card Colour
-4485 60 2265 4065; [; Card colour 120 270 2025 1605; [; Card colour: Red 1050 25 250 1126; Card colour:
-Green 1395 25 250 1126; Card colour: Blue 1725 25 250 1126; - 1065 1170 225 195 Arial 7; - 1395 1170
-225 195 Arial 7; - 1755 1170 225 195 Arial 7; 192 1050 1380 270 210 Arial 7 #ff; 192 1380 1380 285 210
-Arial 7 #c000; 192 1725 1380 270 210 Arial 7 #ff0000; Selected 60 1380 645 165 Arial 7; - 788 1380 225
-195 Arial 7; ]; Numbers 120 1950 2025 1545; [; Colour 1, suit S 120 270 1800 210; Colour 2, suit H 120
-510 1800 210; Colour 3, suit D 120 750 1800 210; Colour 4, suit C 120 990 1800 210; Colour 5, suit O
-120 1230 1800 210; ]; Reset 270 3570 1005 375; ]; Font 6840 60 2235 4065; [; Fonts 180 300 1845 2370
-Courier New 8.25; Sample of the font 750 2880 645 585 Arial 24 bold; Colour of the numbers 210 3630
-1800 210; ]; Tessarine Help; Back 60 30 1095 375; Forward 1155 30 1095 375; Exit 2244 30 1095 375; Help
-page 60 480 7125 5145; About Tessarine; Tessarine - March 2008 A variant of Halvard card game Uses a
-numbers deck instead of standard card deck 30 30 5505 2700; - 5616 96 480 432; Version 1.0 30 2760 5520
-315; OK 5610 2745 450 330 Arial 7.5)");
+Tessarine; Load Saved Game 30 30 360 360 b; Save Game 390 30 360 360 b; Scores 750 30 360 360 b;
+Options 1110 30 360 360 b; New Game 1470 30 360 360 b; Restore current game 1830 30 360 360 b; About
+2190 30 360 360 b; Help 2550 30 360 360 b; Exit 2910 30 360 360 b; Undo 3270 30 360 360 b; Table 30 450
+3905 7115; [; Turn the stock back 445 193.75 202.5 202.5 b; Turn the stock 647.5 193.75 202.5 202.5 b;
+Scores 450 690 3795 2985; [; tessarine Scores 60 60 3675 2865; [; Played 90 600 1005 225 Arial 9 bold
+#ffffff on 0; Won 90 855 1005 255 Arial 9 bold #ffffff on 0; Drawn 90 1140 1005 255 Arial 9 bold
+#ffffff on 0; Lost 90 1425 1005 255 Arial 9 bold #ffffff on 0; This Session 1215 300 1275 255 Arial 9
+bold #ffffff on 0; Total 2565 300 1005 255 Arial 9 bold #ffffff on 0; Played this session: 0 1215 600
+900 255 Courier New 9; Played total: 0 2565 600 900 255 Courier New 9; Won this session: 0 1215 885 900
+255 Courier New 9; Won total: 0 2565 885 900 255 Courier New 9; Drawn this session: 0 1215 1170 900 255
+Courier New 9; Drawn total: 0 2565 1170 900 255 Courier New 9; Lost this session: 0 1215 1455 900 255
+Courier New 9; Lost total: 0 2565 1455 900 255 Courier New 9; Last Update: 14Mar2008 90 1890 3465 345
+Courier New 9 on 8000000f; Close 750 2340 1095 405; Clear 1845 2340 1095 405; ]; ]; ]; Tessarine
+Options; Colour Scheme 60 60 4335 3210 ~ The colours of the table, the buttons and this dialog; [;
+Background colour 150 270 2025 1635 on ffffff ~ Background colour of a new scheme: View shows it; [;
+Background colour: Red 1050 25 250 1126 on 8000000f ~ Red: 120; Background colour: Green 1395 25 250
+1126 on 8000000f ~ Green: 170; Background colour: Blue 1725 25 250 1126 on 8000000f ~ Blue: 120; - 1065
+1170 225 195 Arial 7 on 78; - 1395 1170 225 195 Arial 7 on aa00; - 1755 1170 225 195 Arial 7 on 780000;
+120 1050 1380 270 210 Arial 7 #ff on ffffff; 170 1380 1380 285 210 Arial 7 #c000 on ffffff; 120 1725
+1380 270 210 Arial 7 #ff0000 on ffffff; Selected 60 1380 645 165 Arial 7 on ffffff; - 788 1380 225 195
+Arial 7; ]; Contrast 106 2010 2064 228 on 8000000f ~ Contrast: 100; View 60 2340 1005 375 b ~ Show the
+scheme of this background and contrast, in this dialog only; Replace 1110 2340 1005 375 b ~ Store the
+colours on show in place of the selected scheme; Delete 60 2715 1005 375 b ~ Remove the selected
+scheme; Add 1110 2715 1005 375 b ~ Store the colours on show as a new scheme; Colour schemes 2295 240
+1920 2805 Courier New 8.25 ~ Pick a scheme, then press Apply; ]; Sound 2370 3300 2025 825 ~ Sounds of
+the game; [; Sound: yes 270 330 1425 285 ~ Play sounds; ]; Apply 210 3540 1005 375 b ~ Dress the table
+in the selected scheme and font; Exit 1215 3540 1005 375 b ~ Close the dialog, nothing is taken back;
+Card Colour 4485 60 2265 4065 ~ The colours of the cards; [; Card colour 120 270 2025 1605 on ffffff ~
+Colour of the cards or numbers selected below; [; Card colour: Red 1050 25 250 1126 on 8000000f ~ Red:
+220; Card colour: Green 1395 25 250 1126 on 8000000f ~ Green: 220; Card colour: Blue 1725 25 250 1126
+on 8000000f ~ Blue: 220; - 1065 1170 225 195 Arial 7 on dc; - 1395 1170 225 195 Arial 7 on dc00; - 1755
+1170 225 195 Arial 7 on dc0000; 220 1050 1380 270 210 Arial 7 #ff on ffffff; 220 1380 1380 285 210
+Arial 7 #c000 on ffffff; 220 1725 1380 270 210 Arial 7 #ff0000 on ffffff; Selected 60 1380 645 165
+Arial 7 on ffffff; - 788 1380 225 195 Arial 7 on dcdcdc; ]; Numbers 120 1950 2025 1545 ~ Which cards
+take the colour; [; Colour 1, suit S = Colour 1 120 270 1800 210 on 0; Colour 2, suit H = Colour 2 120
+510 1800 210 on 800000; Colour 3, suit D = Colour 3 120 750 1800 210 on 8000; Colour 4, suit C = Colour
+4 120 990 1800 210 on 8080; Colour 5, suit O = Colour 5 120 1230 1800 210 on 80; ]; Reset 270 3570 1005
+375 b ~ Give the cards five plain colours and the font Arial, and apply that; ]; Font 6840 60 2235 4065
+~ The font of the numbers, with a sample; [; Fonts 180 300 1845 2370 Courier New 8.25 ~ Pick a font,
+then press Apply; Sample of the font 750 2880 645 585 arial 24 bold; Colour of the numbers = Colour 210
+3630 1800 210 on ffffff; ]; Tessarine Help; Back 60 30 1095 375 b; Forward 1155 30 1095 375 b; Exit
+2244 30 1095 375 b; Help page 60 480 7125 5145 on 8000000f; About Tessarine; Tessarine - March 2008 A
+variant of Halvard card game Uses a numbers deck instead of standard card deck 30 30 5505 2700; - 5616
+96 480 432 on 8000000f; Version 1.0 30 2760 5520 315 b; OK 5610 2745 450 330 Arial 7.5 b)");
     GameWorld world;
-    world.form.aboutForm.Load();
+    for (Form* form :
+         std::initializer_list<Form*>{&world.form.form6, &world.form.form4, &world.form.aboutForm}) {
+        form->Show();
+    }
     std::vector<std::string> look;
     for (const Form* form : std::initializer_list<const Form*>{
              &world.form, &world.form.form6, &world.form.form4, &world.form.aboutForm}) {
         look.push_back(form->Caption());
-        Look(*form, look);
+        Look(*form, world.form.shared, look);
     }
     for (const std::string& shown : look) {
         std::string wanted;

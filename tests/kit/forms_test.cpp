@@ -50,7 +50,9 @@ struct MessageBox : KitForms {
             }
         }
         for (std::size_t i = 0; i < MsgForm::IconCount; ++i) {
-            shown += box.icons[i].Visible() ? std::to_string(i) + ' ' : "";
+            // The last one is for a picture that nobody has given yet.
+            const bool isSeen = box.icons[i].Visible() && (i == 10 || box.icons[i].Shown() != nullptr);
+            shown += isSeen ? std::to_string(i) + ' ' : "";
         }
         return shown;
     }

@@ -84,9 +84,10 @@ TEST_F(Controls, AListIsFilledWhenSomebodyAsksAndKeepsItsSelectionOnItsEntry)
     EXPECT_EQ(list.SelectedText(), "");
     EXPECT_EQ(fills, 0);
     list.UserPicks(0);
-    list.Add("blue");
-    list.Add("yellow");
-    EXPECT_EQ(list.SelectedText(), "green");
+    for (const char* const other : {"blue", "yellow"}) {
+        list.Add(other);
+        EXPECT_EQ(list.SelectedText(), "green");
+    }
     EXPECT_EQ(fills, 1);
     list.UserPicks(4); // no such entry
     EXPECT_EQ(releases, 1);

@@ -256,10 +256,14 @@ TEST(DiskTest, WhateverFailsNothingIsLostAndWhatIsToldIsTrue)
 
 TEST(DiskTest, TellsWhichFileAndWhy)
 {
-    const std::map<FileFault, std::string> cases = {{FileFault::Full, "full"},
-                                                    {FileFault::Forbidden, "protected"},
-                                                    {FileFault::IsFolder, "folder"},
-                                                    {FileFault::Missing, "not there"}};
+    const std::map<FileFault, std::string> cases = {
+        {FileFault::Full, "The disk is full"},
+        {FileFault::Forbidden, "The file or its folder is protected"},
+        {FileFault::IsFolder, "A folder has this name"},
+        {FileFault::Missing, "The file or its folder is not there"},
+        {FileFault::InUse, "Another program has the file open"},
+        {FileFault::TooLarge, "The file is too large to be one of this program"},
+        {FileFault::Other, "It is no plain file, or the disk is at fault"}};
     for (const auto& [why, words] : cases) {
         // The copy can't be written; the snapshot can neither be read nor written.
         for (const auto& [failing, file] :

@@ -114,6 +114,12 @@ TEST(TableDescriptionTest, WhatAListenerIsTold)
     EXPECT_EQ(told(FirstColumnBase), "empty column 1");
     EXPECT_EQ(told(S3), "3 of S, stock");
     EXPECT_EQ(told(C2), "");
+    world.form.ring.NextStockCard();
+    world.form.ring.NextStockCard();
+    EXPECT_EQ(told(StockItem), "stock, between two passes");
+    GameWorld empty(GameWorld::Position{});
+    empty.form.ring.NextStockCard();
+    EXPECT_EQ(empty.table.cardy[StockItem].AccessibleName(), "stock, used up");
     EXPECT_EQ(told(D1), "1 of D, finished pile 1");
     EXPECT_EQ(told(D0), "");
 }
