@@ -27,4 +27,5 @@ if [ ! -e "$WINEPREFIX/made" ]; then
         [ -e "$WINEPREFIX/made" ] || make_world >"$WINEPREFIX.log" 2>&1
     ) 9>"$WINEPREFIX.lock" || { echo "Wine could not be set up; see $WINEPREFIX.log" >&2; exit 127; }
 fi
-exec "$wine" "$@"
+# The desktop that the first window brings with it would hold on to the caller's pipe.
+exec "$wine" "$@" 2>>"$WINEPREFIX.log"

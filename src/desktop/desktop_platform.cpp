@@ -10,6 +10,7 @@
 #include <QCursor>
 #include <QDateTime>
 #include <QLocale>
+#include <QPointer>
 #include <QScreen>
 #include <QTimerEvent>
 
@@ -97,7 +98,11 @@ void DesktopPlatform::HideForm(Form& form)
 void DesktopPlatform::RunModal(Form& form, Form* owner)
 {
     if (form.IsShown()) {
-        MakeWindow(form).RunBefore(owner == nullptr ? nullptr : WindowOf(*owner));
+        const QPointer<FormWindow> window(&MakeWindow(form));
+        window->OpenBefore(owner == nullptr ? nullptr : WindowOf(*owner));
+        while (window && window->isModal()) {
+            waits_.WaitForOne(); // unlike a loop of the toolkit, this sees each event that may end it
+        }
     }
 }
 

@@ -78,7 +78,7 @@ void FormWindow::Open()
     show();
 }
 
-void FormWindow::RunBefore(FormWindow* owner)
+void FormWindow::OpenBefore(FormWindow* owner)
 {
     owner_ = owner;
     setWindowModality(Qt::ApplicationModal);
@@ -89,23 +89,12 @@ void FormWindow::RunBefore(FormWindow* owner)
     widgets_.FocusFirst();
     show();
     activateWindow();
-
-    QEventLoop loop;
-    loop_ = &loop;
-    const QPointer<FormWindow> alive(this);
-    loop.exec(QEventLoop::DialogExec);
-    if (alive) {
-        loop_ = nullptr;
-    }
 }
 
 void FormWindow::Shut()
 {
     hide();
-    if (loop_ != nullptr) {
-        loop_->quit();
-        setWindowModality(Qt::NonModal);
-    }
+    setWindowModality(Qt::NonModal);
     if (owner_ != nullptr && owner_->isVisible()) {
         owner_->activateWindow();
     }

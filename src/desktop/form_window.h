@@ -6,7 +6,7 @@
 #include "desktop/size_talk.h"
 #include "desktop/surface.h"
 
-#include <QEventLoop>
+#include <QPointer>
 
 #include <functional>
 
@@ -21,9 +21,8 @@ public:
 
     /// Shows the window, or brings it to the front.
     void Open();
-    /// Shows the window before its owner (none: in the middle of the screen) and handles events until
-    /// it is shut. The window may be gone by then.
-    void RunBefore(FormWindow* owner);
+    /// Shows the window before its owner (none: in the middle of the screen), modal until it is shut.
+    void OpenBefore(FormWindow* owner);
     void Shut();
     /// From now on nothing reaches the form, nor any control of it.
     void LetGoOfForm();
@@ -59,7 +58,6 @@ private:
     void RefreshEverything();
 
     FormWidgets widgets_;
-    QEventLoop* loop_ = nullptr;
     QPointer<FormWindow> owner_;
     SizeTalk sizes_;
     bool fitting_ = false;

@@ -32,8 +32,7 @@ TEST_F(EveningTest, EnterInAQuestionIsTheAnswerThatChangesNothing)
     EXPECT_EQ(enter("vbok"), AnswerOk);
     EXPECT_EQ(enter("vbyesno+vbcancel"), 2);
 
-    WhenModal(
-        [] { QTest::keyClick(QApplication::activeModalWidget()->windowHandle(), Qt::Key_Return); });
+    WhenModal([] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return); });
     EXPECT_FALSE(platform.PlainMessage("Delete?", PlainButtons::YesNo));
 }
 

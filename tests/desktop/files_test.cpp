@@ -15,6 +15,9 @@ namespace fs = std::filesystem;
 
 TEST(DesktopFiles, KeepTheirModesFollowLinksAndSpareWhatIsProtected)
 {
+    if (fs::path::preferred_separator != '/') {
+        GTEST_SKIP() << "where files are protected by attributes, tests/windows looks at them";
+    }
     DesktopPlatform disk;
     const QTemporaryDir folder;
     const std::string in = folder.path().toStdString() + '/';

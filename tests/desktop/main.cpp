@@ -1,6 +1,7 @@
 #include "desktop/dress_style.h"
 #include "stage.h"
 
+#include <QDir>
 #include <QTemporaryFile>
 
 namespace
@@ -25,7 +26,7 @@ protected:
 int main(int argc, char* argv[])
 {
     // Windows on two screens side by side that nobody sees, with everything else as on real ones.
-    QTemporaryFile screens;
+    QTemporaryFile screens(QStringLiteral("screens-XXXXXX"));
     if (!screens.open()) {
         return EXIT_FAILURE;
     }
@@ -33,10 +34,9 @@ int main(int argc, char* argv[])
         {"name": "left", "x": 0, "y": 0, "width": 800, "height": 800},
         {"name": "right", "x": 800, "y": 0, "width": 900, "height": 700}]})");
     screens.close();
-    const bool onRealScreen = qEnvironmentVariableIsSet("TESSARINE_REAL_SCREEN");
-    if (!onRealScreen) {
-        qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + screens.fileName().toUtf8());
-    }
+    // The colon of a drive would end the name.
+    const QString name = QDir::current().relativeFilePath(screens.fileName());
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + name.toUtf8());
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
         Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     QCoreApplication::setAttribute(Qt::AA_Use96Dpi);
