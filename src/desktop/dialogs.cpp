@@ -13,6 +13,7 @@
 #include <QHeaderView>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QScreen>
 #include <QTreeView>
 
 namespace tessarine::dialogs
@@ -23,6 +24,7 @@ namespace
 constexpr auto ProgramTitle = "Tessarine";
 /// Wide enough for a file's date.
 constexpr QSize FileDialogSize(740, 460);
+constexpr double MostOfScreen = 0.9; ///< a small one; the frame needs room, too
 
 QString FilterOf(const FileDialogRequest& request)
 {
@@ -97,7 +99,7 @@ std::string File(QWidget* parent, const FileDialogRequest& request)
     box.setOption(QFileDialog::DontConfirmOverwrite);
     box.setOption(QFileDialog::DontUseNativeDialog, !SystemHasFileDialog);
     ShowNewestFirst(box);
-    box.resize(FileDialogSize);
+    box.resize(FileDialogSize.boundedTo(box.screen()->availableGeometry().size() * MostOfScreen));
     if (!request.name.empty()) {
         box.selectFile(ToText(request.name));
     }

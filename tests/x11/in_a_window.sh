@@ -193,6 +193,7 @@ wayland() { # CASE...
         export WAYLAND_DISPLAY=nested QT_QPA_PLATFORM=wayland
         runner=(env -u DISPLAY)
         soon "the compositor" eval "weston-debug scene-graph 2>/dev/null | grep -q background"
+        xdotool mousemove 1 1 mousemove 1279 1399 mousemove 0 0 sleep 0.1 # it counts the pointer's steps from here
     }
     # Of every window, front-most first: its number, and place and size of its client area. That is the
     # part told to be opaque; a window that comes up again tells none, and has the toolkit's frame.
@@ -218,6 +219,43 @@ wayland() { # CASE...
 }
 wayland_game() { wayland game; }
 wayland_game_at_200_percent() { scale=2 && wayland game; }
+wayland_windows() { wayland windows_with_frames; }
+wayland_windows_at_200_percent() { scale=2 && wayland windows_with_frames; }
+
+# The frame that the toolkit draws itself: 30 pixels at the top, 3 elsewhere, and its buttons at the right.
+frame_button() { # WINDOW, and how far from its right edge
+    xdotool $(to "$1" $(($(size_of "$1" | cut -d ' ' -f 1) - $2 * scale)) $((-16 * scale))) sleep 0.1 click 1
+}
+window_has_width() { [[ $(($(size_of "$window" | cut -d ' ' -f 1) / scale)) =~ ^$1$ ]]; }
+column_base_reaches() { [ "$(pixels_of "$window" "%[hex:p{$(($1 * scale)),$(($2 * scale))}]")" = 99AD9B ]; }
+windows_with_frames() {
+    local button wide=$((1280 / scale - 6))
+    open_display && start_program
+    soon "the window has the table's width" window_has_width 264
+    frame_button "$window" 37
+    soon "the window is maximised" window_has_width "$wide"
+    soon "the table is as wide" column_base_reaches $((wide / 10)) $((wide * 3 / 11))
+    frame_button "$window" 37
+    soon "the window has its size back" window_has_width 264
+    soon "the table is as it was" column_base_reaches 30 95
+    xdotool $(to "$window" $((265 * scale)) $((200 * scale))) sleep 0.1 mousedown 1 sleep 0.1 \
+        mousemove_relative -- $((30 * scale)) 0 sleep 0.1 mousemove_relative -- $((30 * scale)) 0 sleep 0.5 mouseup 1
+    soon "the hand makes it wider" window_has_width 3..
+    for button in 0 3 6 7; do # the file dialog, options, about, help
+        command_button "$button"
+        soon "a window for button $button" box_is_open
+        sleep 0.5
+        frame_button "$box" 14
+        soon "its frame closes it" no_box_is_open
+    done
+    command_button 8 && soon "a question" box_shows_buttons 2
+    frame_button "$box" 14 && sleep 0.5
+    box_shows_buttons 2 || fail "a question closes without an answer"
+    answer 2 2
+    frame_button "$window" 14
+    ends_well
+}
+no_box_is_open() { ! box_is_open; }
 
 game_at_200_percent() { scale=2 && export QT_SCALE_FACTOR=2 && game; } # on a screen of twice as many pixels
 
