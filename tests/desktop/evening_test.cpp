@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QFontDatabase>
+#include <QInputDialog>
 #include <QTemporaryDir>
 #include <QTreeView>
 
@@ -82,6 +83,22 @@ TEST_F(EveningTest, ABorderGrowsWithItsCardAndStandsOutFromCardAndTable)
     }
 }
 
+TEST_F(EveningTest, WhatIsAskedIsReadAndTheBusyPointerGoesWithTheWork)
+{
+    WhenModal([] {
+        auto* const box = dynamic_cast<QInputDialog*>(QApplication::activeModalWidget());
+        EXPECT_EQ(box->labelText(), QStringLiteral("Name of the scheme"));
+        box->setTextValue(QStringLiteral("lagoon"));
+        box->accept();
+    });
+    EXPECT_EQ(platform.AskForText("Name of the scheme"), "lagoon");
+    for (const bool busy : {true, true, false}) {
+        platform.SetBusyPointer(busy);
+        const QCursor* const shown = QGuiApplication::overrideCursor();
+        EXPECT_EQ(shown != nullptr && shown->shape() == Qt::WaitCursor, busy);
+    }
+}
+
 /// How many controls that have a widget tell nothing to the pointer that rests on them.
 int Silent(const Container& container)
 {
@@ -140,6 +157,7 @@ TEST_F(EveningTest, TheLatestDealIsTheFirstToBeLoaded)
             }
             return shown.join(u' ') == latest;
         })) << ToBytes(shown.join(u' '));
+        EXPECT_EQ(box->acceptMode(), QFileDialog::AcceptOpen);
         EXPECT_TRUE(list->isColumnHidden(1) && list->isColumnHidden(2));
         box->reject();
     });
