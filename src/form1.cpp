@@ -5,6 +5,8 @@
 #include "presentation/places.h"
 #include "runtime/files.h"
 
+#include <algorithm>
+
 namespace tessarine
 {
 
@@ -144,6 +146,7 @@ void Form1::Form_Load()
     table.CreateCards();
     deal.NewDeal();
     TakePlacesOfStacks();
+    SetClientArea({Width(), std::min(Height(), platform().LargestClientArea(*this).height)});
     scaling.ScaleTable(scaling.FirstFactor(shared.CardScale));
     ring.NextStockCard();
     gameCommands.TakeSnapshot();

@@ -10,7 +10,8 @@ play_packages=(cmake ninja-build g++ pkg-config qt6-base-dev libgl-dev qt6-wayla
 test_packages=(libgtest-dev libbenchmark-dev clang clang-format clang-tidy libclang-rt-dev
                xvfb openbox xdotool wmctrl x11-utils x11-apps imagemagick
                desktop-file-utils
-               python3-gi gir1.2-atspi-2.0 at-spi2-core dbus-daemon weston)
+               python3-gi gir1.2-atspi-2.0 at-spi2-core dbus-daemon weston
+               faketime)
 
 say() { printf '%s\n' "$*"; }
 

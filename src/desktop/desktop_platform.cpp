@@ -334,6 +334,12 @@ void DesktopPlatform::RemoveFile(const std::string& path)
     files::Remove(path);
 }
 
+/// Two programs may share a folder.
+std::string DesktopPlatform::OwnSuffix() const
+{
+    return '.' + std::to_string(QCoreApplication::applicationPid()) + ".part";
+}
+
 bool DesktopPlatform::IsPlainFile(const std::string& path)
 {
     return files::IsPlain(path);

@@ -133,6 +133,7 @@ public:
     FileFault WriteNewFile(const std::string& path, std::string_view bytes) override;
     FileFault RenameFile(const std::string& from, const std::string& to) override;
     void RemoveFile(const std::string& path) override;
+    std::string OwnSuffix() const override { return ".part"; }
     bool IsPlainFile(const std::string& path) override;
     std::string CurrentFolder() override;
     void ChangeFolder(const std::string& folder) override;

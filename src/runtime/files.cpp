@@ -32,7 +32,7 @@ FileFault ReplaceFile(Platform& platform, const std::string& path, std::string_v
     if (!place) {
         return place.fault;
     }
-    const std::string beside = place.text + ".part";
+    const std::string beside = place.text + platform.OwnSuffix();
     FileFault fault = platform.WriteNewFile(beside, bytes);
     if (fault == FileFault::None) {
         fault = platform.RenameFile(beside, place.text);

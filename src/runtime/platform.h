@@ -124,6 +124,8 @@ public:
     /// stays.
     virtual FileFault RenameFile(const std::string& from, const std::string& to) = 0;
     virtual void RemoveFile(const std::string& path) = 0;
+    /// What ends the names of files that no other running program writes.
+    virtual std::string OwnSuffix() const = 0;
     /// Whether a plain file of that name is there: no folder, nothing hidden.
     virtual bool IsPlainFile(const std::string& path) = 0;
     virtual std::string CurrentFolder() = 0;

@@ -123,6 +123,8 @@ std::FILE* OpenFile(const char* name, const char* path, const char* mode)
 
 } // namespace
 
+// NOLINTBEGIN(readability-inconsistent-declaration-parameter-name,cppcoreguidelines-*): the library's
+// own names
 extern "C" {
 
 // The mode that follows is in its register, given or not.
@@ -227,3 +229,4 @@ ssize_t readlink(const char* path, char* to, std::size_t size) noexcept
 }
 
 } // extern "C"
+// NOLINTEND(readability-inconsistent-declaration-parameter-name,cppcoreguidelines-*)

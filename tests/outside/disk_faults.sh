@@ -5,9 +5,10 @@
 # must come up again with every count that it had.
 #   disk_faults.sh BUILD-FOLDER [COMMAND...]
 set -u
-build=$(readlink -f "$1")
-export build work me
 me=$(readlink -f "$0")
+build=$(readlink -f "$1")
+export build work
+. "${me%/*}/helpers.sh"
 
 # What is pressed. The last word of a row is what the counts may become.
 commands() {
@@ -26,7 +27,6 @@ apply;Options|row:linen|Apply;
 exit;Exit;
 END
 }
-counts=" 5 2 1 2 "
 
 ways_of() { # OPERATION: the errors by number (2 gone, 5 fault, 13 forbidden, 28 no room), and more
     case $1 in
@@ -40,30 +40,15 @@ ways_of() { # OPERATION: the errors by number (2 gone, 5 fault, 13 forbidden, 28
     echo before after
 }
 
-scores_of() { # FILE: the counts of a line that is scrambled by a key, two digits a letter
-    local key=MIRTH text='' i line
-    line=$(head -c -2 "$1" | tr ' ' 0)
-    for ((i = 0; i < ${#line} / 2; ++i)); do
-        printf -v text '%s\\x%x' "$text" $((16#${line:i * 2:2} ^ $(printf %d "'${key:i % 5:1}")))
-    done
-    printf "$text" | cut -c 10- | grep -oE '^ [0-9]+ [0-9]+ [0-9]+ [0-9]+ '
-}
-
 furnish() { # FOLDER COMMAND: a program as its player left it, with links here and there
     rm -rf "$1" && mkdir -p "$1/real" && ln "$work/tessarine" "$1/tessarine"
     cp "$build/tessarine/all.col" "$1/real/schemes" && ln -s real/schemes "$1/all.col"
     [ "$2" != first_day ] || return 0
     cp "$work/whole/tessarine.cfg" "$work/whole/tempgame.txt" "$work/whole/old.gam" "$1"
-    cp "$work/whole/scores" "$1/real/scores" && ln -s real/scores "$1/tessarine.sco"
-}
-
-play() { # FOLDER HAND: what the program does, and how it ends
-    (cd "$1" && DISK_FOLDER=$1 DISK_LOG=$1.ops HAND=$2 QT_QPA_PLATFORM=offscreen QT_LOGGING_RULES='*=false' \
-        LD_PRELOAD="$build/tests/outside/liboutside_hand.so" HOME=$work exec ./tessarine) >"$1.told" 2>"$1.err"
+    cp "$work/whole/tessarine.sco" "$1/real/scores" && ln -s real/scores "$1/tessarine.sco"
 }
 
 other_schemes() { sed '16,28d' "$1"; } # than the one that is replaced, by whatever colours were on show
-is_game() { [ "$(tr -d '\r' <"$1" | sort -u | grep -cE '^[0-4][0-9]$')" = 50 ] && [ "$(wc -c <"$1")" = 200 ]; }
 
 faults_of() { # FOLDER COMMAND NEW-COUNTS KILLED: what is not as it should be
     local folder=$1 path file now
@@ -126,19 +111,7 @@ shift
 work=$(mktemp -d)
 trap 'rm -rf -- "$work"' EXIT
 mkdir "$work/whole" && cp "$build/tessarine/tessarine" "$work"
-for card in {49..0}; do printf '%02d\r\n' "$card"; done >"$work/whole/old.gam"
-cp "$work/whole/old.gam" "$work/whole/tempgame.txt"
-printf '%s\r\n' ' 7             16777215      0 ' ' 1 ' ' 200 ' ' 51200 ' ' 13107200 ' ' 51400 ' ' 13107400 ' \
-    default.col arial >"$work/settings"
-printf '%s\r\n' ' 1             16777215      0 ' ' 1 ' ' 0 ' ' 8388608 ' ' 32768 ' ' 32896 ' ' 128 ' \
-    default.col arial >"$work/new_settings"
-(printf 'yesterday\r\n' && cat "$work/settings") >"$work/whole/tessarine.cfg"
-line="01JAN2026${counts}" key=MIRTH
-for ((i = 0; i < ${#line}; ++i)); do
-    printf '%2X' $(($(printf %d "'${line:i:1}") ^ $(printf %d "'${key:i % 5:1}")))
-done >"$work/whole/scores"
-printf '\r\n' >>"$work/whole/scores"
-
+write_files "$work/whole"
 started=0 # operations of the start, which the rows behind "start" leave out
 while IFS=';' read -r -u 4 command hand new; do
     folder=$work/$command

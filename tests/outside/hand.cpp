@@ -2,7 +2,7 @@
 // buttons and tells on the standard output what comes up.
 //   HAND="New Game|Options|row:linen|Delete"   what it presses, one after the other. A box of which the
 // list knows nothing is answered with Yes or Ok; "row:" picks a row of a list, "file:" and "text:"
-// answer a dialog. At the list's end the main window is closed.
+// answer a dialog, at "wait" all stays as it is. At the list's end the main window is closed.
 #include <QAbstractItemView>
 #include <QAccessible>
 #include <QApplication>
@@ -10,6 +10,7 @@
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QMouseEvent>
+#include <QScreen>
 #include <QThread>
 #include <QTimer>
 
@@ -17,6 +18,7 @@
 #include <cstdio>
 #include <functional>
 #include <unistd.h>
+#include <vector>
 
 namespace
 {
@@ -101,6 +103,22 @@ Action WayTo(const QString& wish, QWidget& window)
     return {};
 }
 
+/// A window has settled when its frame and its place are known, which a window manager tells in its
+/// time.
+void TellWhetherOnScreen(const QWidget& window)
+{
+    const QRect place = window.frameGeometry();
+    const QRect screen = window.screen()->geometry();
+    if (!screen.contains(place) && place.width() <= screen.width()) {
+        Tell("off the screen", QStringLiteral("%1 at %2, %3 of %4 by %5")
+                                   .arg(window.windowTitle())
+                                   .arg(place.x())
+                                   .arg(place.y())
+                                   .arg(place.width())
+                                   .arg(place.height()));
+    }
+}
+
 void TellOf(const QWidget& box)
 {
     static const QWidget* last = nullptr;
@@ -113,41 +131,61 @@ void TellOf(const QWidget& box)
     }
     if (last != &box || lastText != text) {
         Tell("box", box.windowTitle() + u' ' + text);
+        TellWhetherOnScreen(box);
     }
     last = &box;
     lastText = text;
 }
 
-int inside = 0; ///< presses whose work still goes on, in boxes that they have opened
+/// Whether nothing goes on in the loop that called: one that a command lets run in the middle of its
+/// work is called from deeper in the stack than the loop itself.
+bool IsIdle()
+{
+    static std::vector<const char*> shallowest; // by the level of the loop
+    const auto level = static_cast<std::size_t>(QThread::currentThread()->loopLevel());
+    const auto* const here = static_cast<const char*>(__builtin_frame_address(0));
+    shallowest.resize(level + 1, nullptr);
+    constexpr std::ptrdiff_t oneLoop = 500; // bytes within which its calls differ
+    const bool isLoop = shallowest[level] - here < oneLoop;
+    shallowest[level] = std::max(shallowest[level], here);
+    return isLoop && level > 0;
+}
+
+/// What was pressed last may reach the program only in its next round of events: this comes behind it.
+struct Arrival : QObject {
+    bool isAwaited = false;
+    bool event(QEvent* /*event*/) override { return !(isAwaited = false); }
+} arrival;
 
 void Step()
 {
     QTimer::singleShot(2, qApp, &Step);
-    const QWidgetList all = QApplication::topLevelWidgets();
-    const auto open = [](const QWidget* one) { return one->isVisible() && one->isWindow(); };
-    const auto boxes =
-        std::ranges::count_if(all, [&](const QWidget* one) { return open(one) && one->isModal(); });
     QWidget* const box = QApplication::activeModalWidget();
-    const bool isIdle = box != nullptr || QThread::currentThread()->loopLevel() == 1;
-    if (inside > boxes || !isIdle) {
-        return;
-    }
-    const auto main = std::ranges::find_if(all, [&](const QWidget* one) {
-        return open(one) && one->windowTitle() == QLatin1String("Tessarine") && !one->isModal();
+    const QWidgetList all = QApplication::topLevelWidgets();
+    const auto main = std::ranges::find_if(all, [](const QWidget* one) {
+        return one->isVisible() && one->windowTitle() == u"Tessarine" && !one->isModal();
     });
     QWidget* const window = box != nullptr ? box : main == all.end() ? nullptr : *main;
-    if (window == nullptr) {
+    const bool isInBox = QThread::currentThread()->loopLevel() > 1;
+    if (!IsIdle() || (isInBox && box == nullptr) || window == nullptr || arrival.isAwaited) {
         return;
     }
     if (box != nullptr) {
         TellOf(*box);
+    } else {
+        TellWhetherOnScreen(*window);
     }
-    ++inside;
     const QStringList answers = {"Yes", "Ok", "OK", "Exit", "Cancel"};
     const QStringList wishes = Wishes().mid(0, 1) + (box != nullptr ? answers : QStringList());
     const auto wish =
         std::ranges::find_if(wishes, [&](const QString& one) { return WayTo(one, *window) != nullptr; });
-    if (wish == wishes.end()) {
+    if (Wishes().value(0) == u"wait") {
+        return; // until something from outside ends it
+    }
+    static int waited = 0; // what a press has brought up is there a moment later
+    if (wish == wishes.end() && !Wishes().isEmpty() && ++waited < 500) {
+        // later
+    } else if (wish == wishes.end()) {
         Tell(Wishes().isEmpty() ? "done" : "cannot", Wishes().value(0));
         window->close();
     } else {
@@ -155,9 +193,11 @@ void Step()
             Tell("does", *wish);
             Wishes().removeFirst();
         }
+        waited = 0;
+        arrival.isAwaited = true;
+        QCoreApplication::postEvent(&arrival, new QEvent(QEvent::User), Qt::LowEventPriority);
         WayTo(*wish, *window)();
     }
-    --inside;
 }
 
 void Begin()
