@@ -4,7 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
 #include <string>
 #include <vector>
 
@@ -35,23 +34,6 @@ struct OnAForm : testing::Test {
         form.Show();
     }
 
-    /// What shows there: a line fills the pixel in which it lies.
-    Colour At(Twips x, Twips y) const
-    {
-        Colour shown = button.Drawing().Background();
-        const auto covers = [](Twips from, Twips to, Twips at) {
-            return std::floor(from / 15) <= std::floor(at / 15) &&
-                   std::floor(at / 15) <= std::floor(to / 15);
-        };
-        for (const Canvas::Stroke& stroke : button.Drawing().Strokes()) {
-            const auto* line = std::get_if<Canvas::Line>(&stroke);
-            const bool isHere = line != nullptr && covers(line->from.x, line->to.x, x) &&
-                                covers(line->from.y, line->to.y, y);
-            shown = isHere ? line->colour : shown;
-        }
-        return shown;
-    }
-
     std::string Choose(const std::string& answer, std::string_view kind = "SAVE")
     {
         platform.chosenFiles.push_back(answer);
@@ -66,18 +48,6 @@ struct OnAForm : testing::Test {
 };
 using BoxButton = OnAForm;
 using FileChooser = OnAForm;
-
-TEST_F(BoxButton, HasLightEdgesAboveAndLeftAndDarkOnesBelowAndRight)
-{
-    button.SetBackColor(Rgb(150, 170, 165));
-    EXPECT_EQ(At(0, 180), White);
-    EXPECT_EQ(At(180, 0), White);
-    EXPECT_EQ(At(340, 180), Black);
-    EXPECT_EQ(At(180, 340), Black);
-    EXPECT_EQ(At(355, 180), button.BackColor()) << "the dark edge stands in from the side";
-    button.SetWidth(600);
-    EXPECT_EQ(At(340, 180), button.BackColor()) << "the edge of the old width is gone";
-}
 
 TEST_F(BoxButton, CentresItsCaptionByTheHeightOfACapitalAndItsPictureAlmost)
 {

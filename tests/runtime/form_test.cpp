@@ -93,41 +93,6 @@ struct Mouse : FormLife {
     std::string record;
 };
 
-TEST_F(Mouse, TheFrontMostControlThatShowsAndIsEnabledIsUnderThePointer)
-{
-    EXPECT_EQ(form.FrontMostAt(300, 300), &upper);
-    EXPECT_EQ(form.FrontMostAt(399.9, 100), &lower);
-    EXPECT_EQ(form.FrontMostAt(400, 100), nullptr);
-    lower.BringToFront();
-    EXPECT_EQ(form.FrontMostAt(300, 300), &lower);
-    lower.SendToBack();
-    upper.SetEnabled(false);
-    EXPECT_EQ(form.FrontMostAt(300, 300), &lower);
-    lower.SetVisible(false);
-    EXPECT_EQ(form.FrontMostAt(300, 300), nullptr);
-
-    EXPECT_EQ(form.FrontMostAt(1160, 260), &inner);
-    box.SetEnabled(false); // and with it all that stands on it
-    EXPECT_EQ(form.FrontMostAt(1160, 260), nullptr);
-    box.SetEnabled(true);
-    box.Move(0, 0);
-    box.SendToBack(); // and still before labels and images
-    lower.SetVisible(true);
-    EXPECT_EQ(form.FrontMostAt(300, 300), &box);
-}
-
-TEST_F(Mouse, ThePressedControlKeepsTheMouseUntilEveryButtonIsUp)
-{
-    form.FeedMouseDown(At(1160, 260));
-    form.FeedMouseMove(At(300, 300, 0));
-    form.FeedMouseDown(At(100, 100, RightButton));
-    form.FeedMouseUp(At(-500, 9000));
-    form.FeedMouseUp(At(300, 300, RightButton));
-    form.FeedMouseUp(At(300, 300, RightButton)); // one release too many
-    form.FeedMouseMove(At(300, 300, 0));
-    EXPECT_EQ(record, "+ 10 10~-850 50+-1050-150--1650 8750--850 50");
-}
-
 TEST_F(Mouse, APressOnABusyFormIsGoneWithItsReleaseAndATakenOneIsAlwaysReleased)
 {
     form.CancelControl = &upper;

@@ -1,8 +1,6 @@
 #include "contract/platform_contract.h"
 #include "headless/headless_platform.h"
 
-#include <stdexcept>
-
 namespace tessarine::contract
 {
 namespace
@@ -34,20 +32,3 @@ private:
 INSTANTIATE_TYPED_TEST_SUITE_P(Headless, PlatformContract, HeadlessWorld);
 
 } // namespace tessarine::contract
-
-namespace tessarine
-{
-namespace
-{
-
-TEST(Headless, AFailedWriteLeavesHalfOfTheBytes)
-{
-    HeadlessPlatform platform;
-    platform.ResetFileOperations(1);
-    EXPECT_FALSE(platform.ReadFile("new.txt")); // counts too
-    EXPECT_EQ(platform.WriteNewFile("new.txt", "1234"), FileFault::Full);
-    EXPECT_EQ(platform.files["/run/new.txt"], "12");
-}
-
-} // namespace
-} // namespace tessarine

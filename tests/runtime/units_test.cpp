@@ -1,10 +1,8 @@
 #include "headless/headless_platform.h"
-#include "runtime/contrast.h"
 #include "runtime/files.h"
 #include "runtime/letters.h"
 #include "runtime/text_list.h"
 #include "runtime/units.h"
-#include "support/seen_contrast.h"
 
 #include <gtest/gtest.h>
 
@@ -84,16 +82,6 @@ TEST(Letters, AreLoweredInTheEncodingThatTheTextHas)
          {"\xC1\xA1", "\xED\xA0\x80", "\xF4\x90\x80\x80", "\xE2\x82", "\xF8"}) {
         EXPECT_EQ(Letters(noLetter).size(), noLetter.size()) << "a letter for each byte";
     }
-}
-
-TEST(Contrast, TextCanBeReadOnEveryGround)
-{
-    for (int ground = Black; ground <= White; ground += 1021) {
-        EXPECT_GE(SeenContrast(Seen(TextColour(ground, ButtonText)), Seen(ground)), ReadableContrast)
-            << ground;
-    }
-    EXPECT_EQ(TextColour(Black, Rgb(28, 28, 28)), Rgb(28, 28, 28)) << "a colour that is meant";
-    EXPECT_EQ(TextColour(ButtonFace, WindowText), Black);
 }
 
 TEST(Files, GoWhereALinkLeadsAndSpareWhatIsProtected)
