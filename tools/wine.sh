@@ -7,6 +7,7 @@ mkdir -p "$build"
 WINEPREFIX=${WINEPREFIX:-$(readlink -f "$build")/wine}
 # What it would otherwise ask to download, or lay into the menu of the user.
 export WINEPREFIX WINEARCH=win64 WINEDEBUG=${WINEDEBUG:--all} WINEDLLOVERRIDES='mscoree,mshtml=;winemenubuilder.exe='
+export LC_ALL=C.UTF-8 # names on the disk are UTF-8
 wine=$(PATH=$PATH:/usr/lib/wine command -v wine64) || wine=$(command -v wine) || {
     echo "There is no Wine here to run ${1:-a program} with." >&2
     exit 127
