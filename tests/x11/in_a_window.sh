@@ -282,8 +282,8 @@ game_by_ear() { # a reader on a bus of its own presses the buttons, and knows th
     cmp "$said.boxes" <(printf '%s\n' 'Restore current game?' 'Game restored' 'Its all done!' 'Abandon current game?' \
         'Abandon current game?' "Game saved to file: $program/savedgame;01.gam" 'Exit?') || fail "other boxes were heard"
     start_program
-    for name in Options 'Colour 2, suit H' Exit Scores Clear No Close About OK Help Exit; do
-        reader_presses "$name" && sleep 0.5
+    for name in Options 'Colour 2, suit H' Exit Scores Clear No Close About OK Help Back Exit; do
+        reader_presses "$name"
     done
     close_window
 }

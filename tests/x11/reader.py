@@ -69,10 +69,15 @@ def has(thing, state):
     return thing.get_state_set().contains(state)
 
 
+def parts_of(thing):
+    parts = [thing.get_child_at_index(n) for n in range(thing.get_child_count())]
+    return [part for part in parts if part]  # one may just have gone
+
+
 def things_in(thing):
     yield thing
-    for n in range(thing.get_child_count()):
-        yield from things_in(thing.get_child_at_index(n))
+    for part in parts_of(thing):
+        yield from things_in(part)
 
 
 def listen(heard, *cards):
@@ -102,21 +107,28 @@ def listen(heard, *cards):
     Atspi.event_main()
 
 
+def to_press(name):
+    program = [app for app in parts_of(Atspi.get_desktop(0)) if app.get_name() == 'tessarine'][0]
+    found = None
+    for window in parts_of(program):
+        if has(window, Atspi.StateType.ACTIVE):
+            assert has(window, Atspi.StateType.MODAL) == (window.get_role_name() == 'dialog')
+            for thing in things_in(window):
+                role = thing.get_role_name()
+                can_be_worked = 'button' in role or has(thing, Atspi.StateType.FOCUSABLE)
+                assert thing.get_name() or not can_be_worked, f'a {role} has no name'
+                if thing.get_name() == name and role in ('push button', 'radio button'):
+                    found = thing
+    return found
+
+
 def press(name):
-    desktop = Atspi.get_desktop(0)
-    program = [app for app in things_in(desktop) if app.get_name() == 'tessarine'][0]
-    windows = [program.get_child_at_index(n) for n in range(program.get_child_count())]
-    window = [window for window in windows if has(window, Atspi.StateType.ACTIVE)][0]
-    assert has(window, Atspi.StateType.MODAL) == (window.get_role_name() == 'dialog')
-    for thing in things_in(window):
-        can_be_worked = 'button' in thing.get_role_name() or has(thing, Atspi.StateType.FOCUSABLE)
-        assert thing.get_name() or not can_be_worked, f'a {thing.get_role_name()} has no name'
-        if thing.get_name() == name and thing.get_role_name() in ('push button', 'radio button'):
-            start = time.monotonic()
-            assert thing.do_action(0) and time.monotonic() < start + 1
-            break
-    else:
-        raise SystemExit(f'there is no {name}')
+    until = time.monotonic() + 10
+    while not (thing := to_press(name)):
+        assert time.monotonic() < until, 'there is no such button'
+        time.sleep(0.1)
+    start = time.monotonic()
+    assert thing.do_action(0) and time.monotonic() < start + 1
     if thing.get_role_name() == 'radio button':
         time.sleep(0.5)
         assert has(thing, Atspi.StateType.CHECKED)
