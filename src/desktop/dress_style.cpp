@@ -99,13 +99,13 @@ void DressStyle::PaintBox(QPainter& painter, const QStyleOption& option, const Q
     const Colour text = ColourOf(option, QPalette::ButtonText);
     const bool isDown = (option.state & (State_Sunken | State_On)) != 0;
     Canvas canvas;
-    DrawButton(canvas,
-               {.size = ToTwips(area.size()),
-                .face = face,
-                .text = text,
-                .caption = ToBytes(caption),
-                .font = FontOf(font)},
-               &TextSize);
+    DrawBox(canvas,
+            {.size = ToTwips(area.size()),
+             .face = face,
+             .text = text,
+             .caption = ToBytes(caption),
+             .font = FontOf(font)},
+            &TextSize);
     Painter box(painter, area, typesetter_);
     box.PaintCanvas(canvas);
     if (isDown) {

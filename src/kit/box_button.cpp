@@ -48,17 +48,17 @@ void BoxControl::MouseTaken()
 void BoxControl::Draw(Canvas& canvas) const
 {
     const Form* form = OwnerForm();
-    DrawButton(canvas,
-               {{Width(), Height()},
-                BackColor(),
-                TextColour(BackColor(), ForeColor()),
-                form == nullptr ? std::string() : caption_,
-                Font(),
-                picture_,
-                HasBorder()},
-               [form](const tessarine::Font& font, std::string_view text) {
-                   return form->platform().TextSize(font, text);
-               });
+    DrawBox(canvas,
+            {{Width(), Height()},
+             BackColor(),
+             TextColour(BackColor(), ForeColor()),
+             form == nullptr ? std::string() : caption_,
+             Font(),
+             picture_,
+             HasBorder()},
+            [form](const tessarine::Font& font, std::string_view text) {
+                return form->platform().TextSize(font, text);
+            });
 }
 
 } // namespace tessarine

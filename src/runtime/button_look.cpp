@@ -22,20 +22,26 @@ void DrawEdges(Canvas& canvas, Size size)
     canvas.DrawLine({EdgeInset, bottom}, {right, bottom}, Black);
 }
 
+/// In the middle, by the height of one capital, whatever the caption: captions of a row share one line.
+void DrawCaption(Canvas& canvas, const ButtonLook& look, Twips innerHeight, const TextMeasure& measure)
+{
+    if (look.caption.empty()) {
+        return;
+    }
+    const Whole width = RoundHalfEven(measure(look.font, look.caption).width);
+    const Whole height = RoundHalfEven(measure(look.font, "W").height);
+    canvas.Print({(look.size.width - width) / 2, (innerHeight - height) / 2}, look.caption, look.font,
+                 look.text);
+}
+
 } // namespace
 
-void DrawButton(Canvas& canvas, const ButtonLook& look, const TextMeasure& measure)
+void DrawBox(Canvas& canvas, const ButtonLook& look, const TextMeasure& measure)
 {
     const Twips border = look.isDown ? 2 * TwipsPerPixel : 0;
     const Size inner{look.size.width - border, look.size.height - border};
     canvas.Clear(look.face);
-    if (!look.caption.empty()) {
-        // The height of one capital, whatever the caption: captions of a row share one line.
-        const Whole width = RoundHalfEven(measure(look.font, look.caption).width);
-        const Whole height = RoundHalfEven(measure(look.font, "W").height);
-        canvas.Print({(look.size.width - width) / 2, (inner.height - height) / 2}, look.caption,
-                     look.font, look.text);
-    }
+    DrawCaption(canvas, look, inner.height, measure);
     DrawEdges(canvas, look.size);
     if (look.picture != nullptr) {
         const Twips side = look.picture->HundredthsOfMillimetre() * TwipsPerHundredth;

@@ -27,6 +27,6 @@ struct ButtonLook {
 using TextMeasure = std::function<Size(const Font&, std::string_view)>;
 
 /// Draws it over whatever the canvas held.
-void DrawButton(Canvas& canvas, const ButtonLook& look, const TextMeasure& measure);
+void DrawBox(Canvas& canvas, const ButtonLook& look, const TextMeasure& measure);
 
 } // namespace tessarine

@@ -4,6 +4,16 @@
 
 namespace tessarine
 {
+namespace
+{
+
+/// What is laid on a base lies exactly on it; on a card it lies one step below.
+bool OnBase(int target)
+{
+    return !IsCard(target);
+}
+
+} // namespace
 
 void Drops::DropOnStack(int target)
 {
@@ -42,20 +52,17 @@ void Drops::LayOneCard(int target)
     slide_.SlideCard(card, target);
     RemoveCard(card);
     const Label& onto = table_.cardy[target];
-    const Whole below = IsCard(target) ? table_.shared().FanStep : 0;
+    const Whole below = OnBase(target) ? 0 : table_.shared().FanStep;
     table_.LayOn(destination, card, onto.Left(), onto.Top() + below);
 }
 
-/// A run jumps. On a base its head lies exactly on it, on a card one step below.
+/// A run jumps.
 void Drops::LayRun(int target)
 {
     const int destination = table_.StackOf(target);
     const Label& onto = table_.cardy[target];
     const Twips left = onto.Left();
-    Twips top = onto.Top();
-    if (IsCard(target)) {
-        top += table_.shared().FanStep;
-    }
+    Twips top = onto.Top() + (OnBase(target) ? 0 : table_.shared().FanStep);
     for (const int card : hand_.DragCards()) {
         RemoveCard(card);
         table_.LayOn(destination, card, left, top);
