@@ -7,9 +7,6 @@ namespace tessarine
 namespace
 {
 
-/// Of the chosen row of a list: white reads well on it.
-constexpr QColor Chosen(31, 99, 152);
-
 /// So many hundredths of the way from one to the other.
 Colour Mixed(Colour one, Colour other, int share)
 {
@@ -50,8 +47,9 @@ QPalette PaletteOf(Colour ground, Colour text, Colour face)
         palette.setColor(QPalette::Disabled, role, faint);
     }
     palette.setColor(QPalette::Base, ToQColor(ground));
-    palette.setColor(QPalette::Highlight, Chosen);
-    palette.setColor(QPalette::HighlightedText, Qt::white);
+    const QColor chosen = LineOn(ground);
+    palette.setColor(QPalette::Highlight, chosen);
+    palette.setColor(QPalette::HighlightedText, ToQColor(ReadableOn(ToColour(chosen))));
     return palette;
 }
 

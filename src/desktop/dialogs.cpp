@@ -12,8 +12,10 @@
 #include <QFileDialog>
 #include <QHeaderView>
 #include <QInputDialog>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QScreen>
+#include <QToolButton>
 #include <QTreeView>
 
 namespace tessarine::dialogs
@@ -49,17 +51,37 @@ void ShowNewestFirst(QFileDialog& box)
     list->sortByColumn(Date, Qt::DescendingOrder);
 }
 
+/// Buttons with the toolkit's coloured icons look like nothing else here, and most serve no one who
+/// looks for a game. The way up keeps its button, with a word on it.
+void LeaveOutIcons(const QFileDialog& box)
+{
+    for (auto* const button : box.findChildren<QToolButton*>()) {
+        if (button->objectName() == QLatin1String("toParentButton")) {
+            button->setText(QStringLiteral("Up"));
+            button->setToolButtonStyle(Qt::ToolButtonTextOnly);
+        } else {
+            button->hide();
+        }
+    }
+}
+
 /// Gives a box and all that is in it the colours of the form that it belongs to, and the program's font.
 void Dress(QWidget& box, const QWidget* owner)
 {
     const auto* const peer = dynamic_cast<const Peer*>(owner);
     const auto* const form = dynamic_cast<const Form*>(peer == nullptr ? nullptr : peer->TheControl());
     const Colour ground = form == nullptr ? ButtonFace : form->BackColor();
-    box.setPalette(
-        PaletteOf(ground, ReadableOn(ground), form == nullptr ? ButtonFace : form->ButtonColour));
+    const Colour text = ReadableOn(ground);
+    box.setPalette(PaletteOf(ground, text, form == nullptr ? ButtonFace : form->ButtonColour));
     box.setFont(WidgetFont(Font()));
     for (QWidget* const part : box.findChildren<QWidget*>()) {
         part->setFont(box.font()); // a desktop may have fonts for kinds of widgets
+    }
+    // The toolkit writes its caret in the inverse of what lies below it.
+    QPalette paper = box.palette();
+    paper.setColor(QPalette::Base, text == Black ? Qt::white : Qt::black);
+    for (auto* const field : box.findChildren<QLineEdit*>()) {
+        field->setPalette(paper);
     }
 }
 
@@ -99,6 +121,7 @@ std::string File(QWidget* parent, const FileDialogRequest& request)
     box.setOption(QFileDialog::DontConfirmOverwrite);
     box.setOption(QFileDialog::DontUseNativeDialog, !SystemHasFileDialog);
     ShowNewestFirst(box);
+    LeaveOutIcons(box);
     box.resize(FileDialogSize.boundedTo(box.screen()->availableGeometry().size() * MostOfScreen));
     if (!request.name.empty()) {
         box.selectFile(ToText(request.name));
