@@ -191,7 +191,7 @@ wayland() { # CASE...
             animation=none background-color=0xff102030 >"$home/weston.ini"
         weston --debug --backend=x11-backend.so --use-pixman --scale="$scale" --width=$((1280 / scale)) \
             --height=$((1400 / scale)) --idle-time=0 -S nested -c "$home/weston.ini" >"$out/weston.log" 2>&1 & started+=($!)
-        export WAYLAND_DISPLAY=nested QT_QPA_PLATFORM=wayland
+        export WAYLAND_DISPLAY=nested XDG_SESSION_TYPE=wayland
         runner=(env -u DISPLAY)
         soon "the compositor" eval "weston-debug scene-graph 2>/dev/null | grep -q background"
         xdotool mousemove 1 1 mousemove 1279 1399 mousemove 0 0 sleep 0.1 # it counts the pointer's steps from here
