@@ -7,10 +7,12 @@ set(playersFolder tessarine-${PROJECT_VERSION})
 if(WIN32)
   set(playersFolder ${playersFolder}-windows)
   set(playersArchive ${playersFolder}.zip)
-  set(archiveFormat c --format=zip)
+  set(archiveFlags c)
+  set(archiveFormat --format=zip)
 else()
   set(playersArchive ${playersFolder}.tar.gz)
-  set(archiveFormat cz)
+  set(archiveFlags cz)
+  set(archiveFormat)
 endif()
 if(CMAKE_INSTALL_PREFIX_INITIALIZED_TO_DEFAULT)
   set_property(CACHE CMAKE_INSTALL_PREFIX PROPERTY VALUE ${CMAKE_BINARY_DIR}/${playersFolder})
@@ -37,7 +39,7 @@ add_custom_target(package
   COMMAND ${CMAKE_COMMAND} -E rm -rf ${packing}
   COMMAND ${CMAKE_COMMAND} --install ${CMAKE_BINARY_DIR} --prefix ${packing}/${playersFolder} --strip
   COMMAND ${CMAKE_COMMAND} -E chdir ${packing}
-          ${CMAKE_COMMAND} -E tar ${archiveFormat} ${CMAKE_BINARY_DIR}/${playersArchive} ${playersFolder}
+          ${CMAKE_COMMAND} -E tar ${archiveFlags} ${CMAKE_BINARY_DIR}/${playersArchive} ${archiveFormat} ${playersFolder}
   COMMAND ${CMAKE_COMMAND} -E rm -rf ${packing}
   COMMENT "Packing ${playersArchive}"
   VERBATIM)
