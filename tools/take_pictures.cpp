@@ -4,6 +4,7 @@
 // for each that the program counts, so that they are sharp on a fine screen too. To be run by hand
 // when the look of the table changes; needs no display (QT_QPA_PLATFORM=offscreen).
 #include "desktop/desktop_platform.h"
+#include "desktop/dress_style.h"
 #include "desktop/painter.h"
 #include "form1.h"
 #include "kit/icons.h"
@@ -188,6 +189,26 @@ QPixmap TablePicture(const Form1& form)
     return window.grab(QRect(0, 0, window.width(), static_cast<int>(bottom / TwipsPerPixel) + 12));
 }
 
+/// The table as it is, with the options beside it as they come up there.
+QPixmap TableAndOptions(Form1& form, const DesktopPlatform& platform)
+{
+    constexpr int gap = 8;
+    const QPixmap table = TablePicture(form);
+    form.form6.Show();
+    QCoreApplication::processEvents();
+    const QPixmap options = platform.WindowOf(form.form6)->grab();
+    form.form6.Hide();
+    const double ratio = table.devicePixelRatio();
+    QPixmap both(table.width() + options.width() + static_cast<int>(gap * ratio),
+                 std::max(table.height(), options.height()));
+    both.setDevicePixelRatio(ratio);
+    both.fill(Qt::transparent);
+    QPainter painter(&both);
+    painter.drawPixmap(0, 0, table);
+    painter.drawPixmap(QPointF(table.deviceIndependentSize().width() + gap, 0), options);
+    return both;
+}
+
 QPixmap TopRow(const Form1& form)
 {
     QCoreApplication::processEvents();
@@ -251,7 +272,7 @@ template <class Reached> bool PlayUntil(Player& player, Reached&& isReached)
 int main(int argc, char* argv[])
 {
     qputenv("QT_SCALE_FACTOR", "2");
-    QApplication::setStyle(QStringLiteral("fusion"));
+    QApplication::setStyle(new DressStyle);
     QCoreApplication::setAttribute(Qt::AA_Use96Dpi);
     const QApplication application(argc, argv);
     if (argc != 4) {
@@ -300,7 +321,7 @@ int main(int argc, char* argv[])
 
     bool found = PlayUntil(player, [&] { return DragOfARun(form, player).has_value(); });
     if (found) {
-        Keep(TablePicture(form), docs + QStringLiteral("table.png"));
+        Keep(TableAndOptions(form, platform), docs + QStringLiteral("table.png"));
         const auto [head, onto] = *DragOfARun(form, player);
         player.Hold(head, onto, 0.6);
         Keep(TablePicture(form), data + QStringLiteral("help_run.png"));
