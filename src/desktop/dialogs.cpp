@@ -108,6 +108,7 @@ std::string Text(QWidget* parent, const std::string& prompt)
     QInputDialog box(parent);
     box.setWindowTitle(QLatin1String(ProgramTitle));
     box.setLabelText(ToText(prompt));
+    box.setInputMode(QInputDialog::TextInput); // makes the field
     Dress(box, parent);
     return box.exec() == QDialog::Accepted ? ToBytes(box.textValue()) : std::string();
 }

@@ -146,7 +146,9 @@ void DressStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
         }
         return;
     case PE_FrameFocusRect:
-        if (const auto* mark = qstyleoption_cast<const QStyleOptionFocusRect*>(option)) {
+        // A chosen row shows without it, and its list wears the mark.
+        if (const auto* mark = qstyleoption_cast<const QStyleOptionFocusRect*>(option);
+            mark != nullptr && (option->state & State_Selected) == 0) {
             PaintMark(*painter, mark->rect, ToQColor(ReadableOn(ToColour(mark->backgroundColor))));
         }
         return;
