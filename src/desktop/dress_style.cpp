@@ -209,7 +209,7 @@ void DressStyle::PaintScrollBar(QPainter& painter, const QStyleOptionSlider& bar
     Painter(painter, bar.rect, typesetter_).Fill(bar.palette.color(QPalette::Midlight));
     Painter(painter, bar.rect, typesetter_).PaintBorder(LineOn(ColourOf(bar, QPalette::Window)));
     const auto paintPart = [&](SubControl part) {
-        QStyleOption box = bar;
+        QStyleOptionSlider box = bar;
         const bool isWorked = (bar.activeSubControls & part) != 0;
         box.state.setFlag(State_Sunken, isWorked && (bar.state & State_Sunken) != 0);
         box.state.setFlag(State_HasFocus,
