@@ -12,6 +12,9 @@ wine=$(PATH=$PATH:/usr/lib/wine command -v wine64) || wine=$(command -v wine) ||
     echo "There is no Wine here to run ${1:-a program} with." >&2
     exit 127
 }
+# The system's settings for the toolkit stay with the system, unless they come by this name.
+[ -z "${QT_SCALE_FACTOR:-}" ] || export WINEQT_SCALE_FACTOR=$QT_SCALE_FACTOR
+[ -z "${QT_QPA_FONTDIR:-}" ] || export WINEQT_QPA_FONTDIR=$QT_QPA_FONTDIR
 
 # A world is made once: a Windows 10 with fonts in place of those that every Windows has.
 make_world() {
