@@ -14,8 +14,8 @@ if [ "${1:-}" = --windows ]; then
 fi
 runs=${1:-15}
 if [ ! -x "$built/bench/start_bench" ] || [ ! -e "$measured/bench/slide_time$suffix" ]; then
-    echo "There are no benchmarks yet: cmake --preset release && cmake --build --preset release" >&2
-    [ -z "$suffix" ] || echo "and for Windows ./windows" >&2
+    echo "There are no benchmarks yet: cmake --preset release && cmake --build --preset release --target benches" >&2
+    [ -z "$suffix" ] || echo "and for Windows ./windows && cmake --build --preset windows --target benches" >&2
     exit 1
 fi
 

@@ -14,7 +14,7 @@ constexpr Size ClientArea{9120, 4155};
 constexpr const char* ListFont = "Courier New";
 constexpr const char* Silent = "X";
 
-void Place(Container& on, Control& control, Twips left, Twips top, Twips width, Twips height)
+void Put(Container& on, Control& control, Twips left, Twips top, Twips width, Twips height)
 {
     control.SetBounds(left, top, width, height);
     on.Add(control);
@@ -22,7 +22,7 @@ void Place(Container& on, Control& control, Twips left, Twips top, Twips width, 
 
 void PlaceButton(Container& on, BoxControl& button, const char* caption, Twips left, Twips top)
 {
-    Place(on, button, left, top, 1005, 375);
+    Put(on, button, left, top, 1005, 375);
     button.SetBackColor(ButtonFace);
     button.SetCaption(caption);
 }
@@ -94,37 +94,37 @@ void Form6::PlaceControls()
 
 void Form6::PlaceSchemeGroup()
 {
-    Place(*this, Frame5, 60, 60, 4335, 3210);
+    Put(*this, Frame5, 60, 60, 4335, 3210);
     Frame5.SetCaption("Colour Scheme");
-    Place(Frame5, ColPik1, 150, 270, 2025, 1635);
-    Place(Frame5, ContrastV, 106, 2010, 2064, 228);
+    Put(Frame5, ColPik1, 150, 270, 2025, 1635);
+    Put(Frame5, ContrastV, 106, 2010, 2064, 228);
     ContrastV.SetRange(-100, 300, 5, 20);
     ContrastV.SetValue(PlainContrast);
     PlaceButton(Frame5, showsch, "View", 60, 2340);
     PlaceButton(Frame5, repsch, "Replace", 1110, 2340);
     PlaceButton(Frame5, delsch, "Delete", 60, 2715);
     PlaceButton(Frame5, addsch, "Add", 1110, 2715);
-    Place(Frame5, List1, 2295, 240, 1920, 2805);
+    Put(Frame5, List1, 2295, 240, 1920, 2805);
     List1.SetFontName(ListFont);
 }
 
 void Form6::PlaceSoundGroup()
 {
-    Place(*this, Frame1, 2370, 3300, 2025, 825);
+    Put(*this, Frame1, 2370, 3300, 2025, 825);
     Frame1.SetCaption("Sound");
-    Place(Frame1, Check1, 270, 330, 1425, 285);
+    Put(Frame1, Check1, 270, 330, 1425, 285);
     Check1.SetCaption("Yes");
 }
 
 void Form6::PlaceCardColourGroup()
 {
-    Place(*this, Frame3, 4485, 60, 2265, 4065);
+    Put(*this, Frame3, 4485, 60, 2265, 4065);
     Frame3.SetCaption("Card Colour");
-    Place(Frame3, ColPik2, 120, 270, 2025, 1605);
-    Place(Frame3, Frame7, 120, 1950, 2025, 1545);
+    Put(Frame3, ColPik2, 120, 270, 2025, 1605);
+    Put(Frame3, Frame7, 120, 1950, 2025, 1545);
     Frame7.SetCaption("Numbers");
     for (std::size_t suit = 0; suit < NumbersOption; ++suit) {
-        Place(Frame7, NumCol[suit], 120, 270 + 240 * static_cast<Twips>(suit), 1800, 210);
+        Put(Frame7, NumCol[suit], 120, 270 + 240 * static_cast<Twips>(suit), 1800, 210);
         NumCol[suit].SetCaption("Colour " + std::to_string(suit + 1));
     }
     PlaceButton(Frame3, cmdreset, "Reset", 270, 3570);
@@ -132,16 +132,16 @@ void Form6::PlaceCardColourGroup()
 
 void Form6::PlaceFontGroup()
 {
-    Place(*this, Frame6, 6840, 60, 2235, 4065);
+    Put(*this, Frame6, 6840, 60, 2235, 4065);
     Frame6.SetCaption("Font");
-    Place(Frame6, List2, 180, 300, 1845, 2370);
+    Put(Frame6, List2, 180, 300, 1845, 2370);
     List2.SetFontName(ListFont);
-    Place(Frame6, Label1, 750, 2880, 645, 585);
+    Put(Frame6, Label1, 750, 2880, 645, 585);
     Label1.SetFont({.name = "Arial", .size = 24, .bold = true});
     Label1.SetAlign(Alignment::Centre);
     Label1.SetBorder(true);
     Label1.SetCaption("1");
-    Place(Frame6, NumCol[NumbersOption], 210, 3630, 1800, 210);
+    Put(Frame6, NumCol[NumbersOption], 210, 3630, 1800, 210);
     NumCol[NumbersOption].SetCaption("Colour");
 }
 
