@@ -85,7 +85,11 @@ TEST_F(EveningTest, ABorderGrowsWithItsCardAndStandsOutFromCardAndTable)
 
 TEST_F(EveningTest, WhatIsAskedIsReadAndTheBusyPointerGoesWithTheWork)
 {
-    WhenModal([] {
+    Show({&surface});
+    form.FeedMouseDown({LeftButton, 0, 100, 600});
+    ASSERT_NE(form.Captured(), nullptr);
+    WhenModal([this] {
+        EXPECT_EQ(form.Captured(), nullptr) << "the box has the mouse";
         auto* const box = dynamic_cast<QInputDialog*>(QApplication::activeModalWidget());
         EXPECT_EQ(box->labelText(), QStringLiteral("Name of the scheme"));
         box->setTextValue(QStringLiteral("lagoon"));

@@ -165,6 +165,13 @@ TEST_F(PaintingTest, WhatLiesInFrontIsSeenAndADigitIsInTheMiddle)
         const QRect ink = Differing(Shown(surface, scale).copy(inside), [](QPoint) { return Black; });
         EXPECT_NEAR(ink.left(), inside.width() - 1 - ink.right(), 1 + scale) << scale;
     }
+    std::vector<QImage> looks;
+    for (const auto& [bold, italic] : {std::pair(false, false), {true, false}, {false, true}}) {
+        digit.SetFont({.name = "Arial", .size = 13, .bold = bold, .italic = italic});
+        const QImage shown = Shown(surface, 1);
+        EXPECT_EQ(std::ranges::count(looks, shown), 0) << bold << italic;
+        looks.push_back(shown);
+    }
 }
 
 /// Runs at several scale factors of the whole program.
