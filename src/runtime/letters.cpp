@@ -196,6 +196,16 @@ std::string ToUtf8(std::u32string_view letters)
     return text;
 }
 
+bool IsPlainAscii(std::string_view text)
+{
+    return std::ranges::all_of(text, [](char letter) { return (letter & 0x80) == 0; });
+}
+
+char SmallAscii(char letter)
+{
+    return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter + ('a' - 'A')) : letter;
+}
+
 } // namespace
 
 std::u32string Letters(std::string_view text)
@@ -228,6 +238,25 @@ std::u32string Folded(std::string_view text)
         }
     }
     return folded;
+}
+
+std::weak_ordering CompareFolded(std::string_view one, std::string_view other)
+{
+    if (!IsPlainAscii(one) || !IsPlainAscii(other)) {
+        return Folded(one) <=> Folded(other);
+    }
+    return std::lexicographical_compare_three_way(
+        one.begin(), one.end(), other.begin(), other.end(),
+        [](char a, char b) { return SmallAscii(a) <=> SmallAscii(b); });
+}
+
+bool BeginsFolded(std::string_view text, std::string_view beginning)
+{
+    if (!IsPlainAscii(text) || !IsPlainAscii(beginning)) {
+        return Folded(text).starts_with(Folded(beginning));
+    }
+    return text.size() >= beginning.size() &&
+           std::ranges::equal(text.substr(0, beginning.size()), beginning, {}, SmallAscii, SmallAscii);
 }
 
 } // namespace tessarine

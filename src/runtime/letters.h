@@ -1,6 +1,7 @@
 // The letters of 8-bit text, capital and small.
 #pragma once
 
+#include <compare>
 #include <string>
 #include <string_view>
 
@@ -17,5 +18,11 @@ std::string LowerCase(std::string_view text);
 /// What is the same in two texts that differ in letter case alone, or in UTF-8 and Latin-1. Letters
 /// that stand for two, such as the German sharp s, count as these.
 std::u32string Folded(std::string_view text);
+
+/// The order of what Folded makes of two texts, sooner known for plain ASCII.
+std::weak_ordering CompareFolded(std::string_view one, std::string_view other);
+
+/// Whether a text begins with another one, both of them folded.
+bool BeginsFolded(std::string_view text, std::string_view beginning);
 
 } // namespace tessarine

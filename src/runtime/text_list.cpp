@@ -12,9 +12,8 @@ namespace
 
 bool ComesBefore(const std::string& a, const std::string& b)
 {
-    const auto oneLetters = Folded(a);
-    const auto otherLetters = Folded(b);
-    return oneLetters == otherLetters ? a < b : oneLetters < otherLetters;
+    const auto order = CompareFolded(a, b);
+    return order == std::weak_ordering::equivalent ? a < b : order < 0;
 }
 
 } // namespace
@@ -63,10 +62,9 @@ void TextList::RemoveAt(std::size_t position)
 
 std::optional<std::size_t> TextList::Find(std::string_view text, std::size_t from) const
 {
-    const std::u32string wanted = Folded(text);
     for (std::size_t step = 0; step < entries_.size(); ++step) {
         const std::size_t position = (from + step) % entries_.size();
-        if (Folded(entries_[position]).starts_with(wanted)) {
+        if (BeginsFolded(entries_[position], text)) {
             return position;
         }
     }
