@@ -3,6 +3,7 @@
 #include "runtime/letters.h"
 
 #include <algorithm>
+#include <compare>
 #include <utility>
 
 namespace tessarine
@@ -13,7 +14,7 @@ namespace
 bool ComesBefore(const std::string& a, const std::string& b)
 {
     const auto order = CompareFolded(a, b);
-    return order == std::weak_ordering::equivalent ? a < b : order < 0;
+    return std::is_eq(order) ? a < b : std::is_lt(order);
 }
 
 } // namespace
