@@ -13,7 +13,6 @@
 #include <QIcon>
 #include <QKeyEvent>
 #include <QResizeEvent>
-#include <QScopedValueRollback>
 #include <QScreen>
 #include <QTimer>
 #include <QWindow>
@@ -178,15 +177,13 @@ Size FormWindow::Fit(Size clientArea)
 {
     const QSize wanted = ToPixels(clientArea);
     if (wanted != size() && !HoldsItsSize()) {
-        const QSize before = size();
-        const QScopedValueRollback fitting(fitting_, true);
+        if (isVisible()) {
+            sizes_.Asked(size(), wanted);
+        }
         if (TheForm()->Sizable) {
             resize(wanted);
         } else {
             setFixedSize(wanted);
-        }
-        if (isVisible()) {
-            sizes_.Asked(before, size());
         }
     }
     return ToTwips(size());
@@ -195,12 +192,18 @@ Size FormWindow::Fit(Size clientArea)
 void FormWindow::resizeEvent(QResizeEvent* event)
 {
     Surface::resizeEvent(event);
-    if (fitting_ || TheForm() == nullptr) {
-        return; // the form gets the answer as a result
-    }
-    sizes_.Got(event->size());
-    if (event->size() != ToPixels({TheForm()->Width(), TheForm()->Height()})) {
-        TheForm()->FeedResize(ToTwips(event->size()));
+    sizes_.Got(size());
+    TellSize();
+}
+
+/// What counts is the size that the window has now: an event may come late and tell of an earlier one,
+/// and none need follow it. A minimised window can't be fitted to what the form makes of a size, so the
+/// form hears of it when the window is back.
+void FormWindow::TellSize()
+{
+    if (TheForm() != nullptr && !isMinimized() &&
+        size() != ToPixels({TheForm()->Width(), TheForm()->Height()})) {
+        TheForm()->FeedResize(ToTwips(size()));
     }
 }
 
@@ -217,6 +220,10 @@ bool FormWindow::event(QEvent* event)
         Refresh(); // what has changed until now goes into the same paint
     } else if (type == QEvent::WindowActivate && TheForm() != nullptr) {
         TheForm()->FeedActivation();
+    } else if (type == QEvent::WindowStateChange && !isMinimized() && TheForm() != nullptr &&
+               static_cast<QWindowStateChangeEvent*>(event)->oldState().testFlag(Qt::WindowMinimized)) {
+        TellSize();
+        TheForm()->FeedRestored();
     } else if (type == QEvent::Paint && !std::exchange(wasPainted_, true)) {
         LearnFrame();
         QTimer::singleShot(0, this, &FormWindow::ShowIcon);

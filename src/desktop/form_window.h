@@ -49,6 +49,7 @@ protected:
 private:
     Form* TheForm() const { return static_cast<Form*>(TheControl()); }
     bool HoldsItsSize() const;
+    void TellSize();
     void PlaceBy(const QWidget* other);
     QMargins Frame() const;
     void PutInPlace();
@@ -60,7 +61,6 @@ private:
     FormWidgets widgets_;
     QPointer<FormWindow> owner_;
     SizeTalk sizes_;
-    bool fitting_ = false;
     /// Where the window comes up, by its size with its frame; none before it first did.
     std::function<QPoint(QSize outer)> place_;
     QMargins frame_; ///< that it was placed with

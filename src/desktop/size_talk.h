@@ -25,11 +25,16 @@ public:
     }
     void Got(QSize size)
     {
-        if (size == before_ && size != wanted_ && !sinceAsked_.hasExpired(AnswerMilliseconds)) {
+        if (size == wanted_) {
+            return; // the question stays: the old size may yet come back
+        }
+        const bool isAnswer = size == before_ && !sinceAsked_.hasExpired(AnswerMilliseconds);
+        if (isAnswer) {
             held_ = size;
-        } else if (size != held_ && size != wanted_) {
+        } else if (size != held_) {
             held_.reset();
         }
+        before_.reset();
     }
 
 private:

@@ -113,6 +113,8 @@ public:
     void FeedMouseLost();
     /// The window has another size, for whatever reason.
     void FeedResize(Size clientArea);
+    /// The window is back from being minimised, when it refused every size that the form asked for.
+    void FeedRestored() { OnResize(); }
     /// The window came to the front of the desktop.
     void FeedActivation();
     /// The window's own close box, or the desktop, asks the form to go.

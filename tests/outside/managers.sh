@@ -23,7 +23,8 @@ states() {
     for state in maximized_vert,maximized_horz maximized_horz maximized_vert fullscreen; do
         echo "wmctrl -i -r \$W -b add,$state" && storm && echo "wmctrl -i -r \$W -b remove,$state"
     done
-    echo 'xdotool windowminimize $W sleep 0.2' && echo 'xdotool windowmap $W' && storm
+    echo 'xdotool windowminimize $W sleep 0.2' && storm && echo 'xdotool windowmap $W' && storm
+    echo "$(storm) windowminimize \$W sleep 0.2" && echo 'xdotool windowmap $W'
 }
 on_display() { # COMMANDS WINDOW-MANAGER...
     local number

@@ -57,6 +57,9 @@ public:
     void Look()
     {
         Expect(test::FaultOfTable(form_));
+        if (window_.isMinimized()) {
+            return; // what it shows then nobody sees
+        }
         const QSize screen = window_.screen()->size();
         if (window_.width() > screen.width() || window_.height() > screen.height()) {
             Expect("it is larger than the screen");
