@@ -132,7 +132,7 @@ variant of Halvard card game Uses a numbers deck instead of standard card deck 3
 TEST(LookTest, EveryCommandHasItsIconAndItsEffect)
 {
     const std::vector<std::pair<BoxControl Form1::*, std::string>> commands = {
-        {&Form1::cmdLoadGame, " _menu.wav open"},
+        {&Form1::cmdLoadGame, " _menu.wav open *.gam /app/"},
         {&Form1::cmdSaveGame, "Game saved to file:\r\n/app/savedgame;01.gam _menu.wav"},
         {&Form1::cmdscore, " _menu.wav scores"},
         {&Form1::cmdopts, "Tessarine Options _menu.wav"},
@@ -165,7 +165,7 @@ TEST(LookTest, EveryCommandHasItsIconAndItsEffect)
             seen += ' ' + sound;
         }
         for (const FileDialogRequest& dialog : world.platform.fileDialogs) {
-            seen += dialog.save ? " save" : " open";
+            seen += (dialog.save ? " save " : " open ") + dialog.types + ' ' + dialog.folder;
         }
         for (const Form* form : world.form.AllForms().Loaded()) {
             seen += form->IsShown() && form != &world.form ? ' ' + form->Caption() : "";

@@ -2,6 +2,8 @@
 // what these make of it.
 #include "support/game_world.h"
 
+#include "store/scramble.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -17,10 +19,20 @@ namespace
 using Row = std::vector<int>;
 constexpr int Gap = -1;     ///< in the ring
 constexpr int Nowhere = 14; ///< a stack that nothing is ever in
+constexpr auto Snapshot = "/app/tempgame.txt";
 
 /// A game on a table of size 1, and the hand that plays it.
 struct Model {
-    explicit Model(unsigned seed) : world(seed), random(seed) { Deal(); }
+    explicit Model(unsigned seed)
+        : world(seed), random(seed), saved(seed % 4 == 0 ? 95 : 0), isRestless(saved > 0)
+    {
+        for (int number = 1; number <= saved; ++number) {
+            world.platform.files[SavedGame(number)] = "mine";
+        }
+        disk = world.platform.files;
+        Deal(world.Order());
+        sounds.clear();
+    }
 
     GameWorld world;
     std::mt19937 random;
@@ -29,11 +41,17 @@ struct Model {
     std::vector<std::pair<int, int>> history; ///< where cards of the stock went
     std::vector<std::string> sounds;
     std::string gap; ///< what the ring's gap says
-    bool isWon = false;
+    bool isNewDeal = false;
+    std::map<std::string, std::string> disk;
+    int saved;                                      ///< deals, each under the next number
+    bool isRestless;                                ///< the others play their games to the end
+    std::array<int, 4> counts{};                    ///< played, won, drawn, lost
+    std::vector<std::string> expected, told, asked; ///< by boxes
 
-    void Deal()
+    static std::string SavedGame(int number) { return "/app/savedgame;" + TwoDigits(number) + ".gam"; }
+    void Deal(const std::string& deal)
     {
-        std::istringstream order(world.Order());
+        std::istringstream order(disk[Snapshot] = deal);
         stacks = {};
         stacks[10] = {Gap};
         for (int card = 0, column = 1; order >> card; column += std::ssize(stacks[column]) == column) {
@@ -42,6 +60,7 @@ struct Model {
         }
         history.clear();
         gap = "...";
+        sounds.emplace_back("_shuf.wav");
     }
     int StackOf(int card)
     {
@@ -85,9 +104,9 @@ struct Model {
         }
         if (std::accumulate(stacks.begin() + 15, stacks.end(), 0UL,
                             [](auto sum, auto& row) { return sum + row.size(); }) == 50) {
-            sounds.insert(sounds.end(), {"_done.wav", "_shuf.wav"});
-            world.platform.AnswerModal("Ok");
-            isWon = true;
+            sounds.emplace_back("_done.wav");
+            Box("Its all done!", "Ok");
+            Count(1);
         }
     }
     void Drop(int from, int count, int to)
@@ -142,6 +161,107 @@ struct Model {
             }
         }
         return Nowhere;
+    }
+
+    void Count(int how)
+    {
+        ++counts[0];
+        ++counts.at(static_cast<std::size_t>(how));
+        isNewDeal = true;
+    }
+    void Box(const std::string& text, const std::string& answer)
+    {
+        expected.push_back(text);
+        Answer(world.platform, answer, told);
+    }
+    bool Asks(const std::string& question)
+    {
+        const bool agrees = isRestless && Choose(2) == 0;
+        Box(question, agrees ? "Yes" : "No");
+        return agrees;
+    }
+    /// The user chooses a file that holds a game, or a little less than one.
+    void Load()
+    {
+        const std::string path = "/else/x.gam";
+        Row cards(50);
+        std::iota(cards.begin(), cards.end(), 0);
+        std::ranges::shuffle(cards, random);
+        std::string order;
+        for (const int card : cards) {
+            order += TwoDigits(card) + "\r\n";
+        }
+        std::string unixOrder = order + "and more\n00\n";
+        std::erase(unixOrder, '\r');
+        const std::vector<std::pair<std::string, std::string>> files = {
+            {"", "It has fewer than 50 lines"},
+            {order.substr(0, 196), "It has fewer than 50 lines"},
+            {"50" + order.substr(2), "Line 1 is no card from 00 to 49"},
+            {order.substr(0, 4) + "+1" + order.substr(6), "Line 2 is no card from 00 to 49"},
+            {order.substr(0, 4) + order, "Line 2 holds a card a second time"},
+            {order, ""},
+            {unixOrder, ""}};
+        const auto& [bytes, fault] = files[random() % (isRestless ? 7 : 5)];
+        world.platform.files[path] = disk[path] = bytes;
+        world.platform.chosenFiles.push_back(path);
+        if (fault.empty()) {
+            Box("Game restored from file:\r\n" + path, "Ok");
+            Deal(order);
+        } else {
+            Box("Game could not be loaded from file:\r\n" + path + "\r\nIt is no game file. " + fault +
+                    ". The game on the table goes on.",
+                "Ok");
+        }
+    }
+    void Command()
+    {
+        Form1& form = world.form;
+        sounds.emplace_back("_menu.wav");
+        switch (Choose(6)) {
+        case 0:
+            if (Asks("Abandon current game?")) {
+                Count(3);
+            }
+            return world.Press(form.cmdnewgame);
+        case 1:
+            if (Asks("Restore current game?")) {
+                Box("Game restored", "Ok");
+                Deal(disk[Snapshot]);
+                world.platform.files.erase(Snapshot); // and is written anew
+            }
+            return world.Press(form.cmdreset);
+        case 2:
+            if (saved == 99) {
+                Box("Game could not be saved:\r\n/app/\r\nAll 99 names are taken. Remove a game that "
+                    "you "
+                    "no longer need. The game on the table goes on.",
+                    "Ok");
+            } else {
+                if (Choose(2) == 0) {
+                    world.platform.files[Snapshot] = "of another program in this folder";
+                }
+                disk[SavedGame(++saved)] = disk[Snapshot];
+                Box("Game saved to file:\r\n" + SavedGame(saved), "Ok");
+            }
+            return world.Press(form.cmdSaveGame);
+        case 3:
+            if (Choose(4) > 0) { // or a cancel
+                Load();
+            }
+            return world.Press(form.cmdLoadGame);
+        case 4:
+            Box("Exit?", "No");
+            return world.Press(form.cmdexit);
+        default:
+            world.Press(form.cmdscore);
+            EXPECT_TRUE(form.Score1.Visible());
+            world.platform.plainAnswers = {Choose(3) == 0};
+            counts = world.platform.plainAnswers[0] ? std::array<int, 4>{} : counts;
+            asked.emplace_back("Clear ALL scores");
+            world.Press(form.Score1.Command2);
+            world.Press(form.Score1.Command1);
+            EXPECT_FALSE(form.Score1.Visible());
+        }
     }
 
     int Choose(int bound) { return static_cast<int>(random() % static_cast<unsigned>(bound)); }
@@ -237,7 +357,9 @@ struct Model {
     void PlayOneGesture()
     {
         const int kind = Choose(12);
-        if (kind < 2) {
+        if (Choose(15) == 0) {
+            Command();
+        } else if (kind < 2) {
             sounds.emplace_back("_nextcard.wav");
             const bool forward = Choose(4) > 0;
             Rotate(forward);
@@ -263,6 +385,19 @@ struct Model {
     }
     void Compare()
     {
+        EXPECT_EQ(std::exchange(told, {}), std::exchange(expected, {}));
+        EXPECT_EQ(std::exchange(world.platform.plainMessages, {}), std::exchange(asked, {}));
+        std::string line = "14Mar2008 ";
+        for (std::size_t i = 0; i < counts.size(); ++i) {
+            const std::string count = std::to_string(counts[i]);
+            line += count + ' ';
+            EXPECT_EQ(world.form.Score1.ThisSession[i + 1].Caption(), count);
+            EXPECT_EQ(world.form.Score1.AllSessions[i + 1].Caption(), count);
+        }
+        std::string& scores = disk["/run/tessarine.sco"] = world.platform.files["/run/tessarine.sco"];
+        EXPECT_TRUE(UnscrambleLine(scores).starts_with(line)) << UnscrambleLine(scores);
+        EXPECT_EQ(world.platform.files, disk);
+        EXPECT_FALSE(world.platform.busy);
         EXPECT_EQ(world.TakeSounds(), std::exchange(sounds, {}));
         for (int stack = 0; stack < 20; ++stack) {
             EXPECT_EQ(world.Cards(stack), stacks[stack]) << stack;
@@ -295,17 +430,19 @@ TEST(ModelTest, WhateverAHandDoesTheTableShowsWhatTheRulesMakeOfIt)
     int wins = 0;
     for (unsigned seed = 0; seed < 40; ++seed) {
         Model model(seed);
-        for (int gesture = 0; gesture < 700 && !HasFailure(); ++gesture) {
+        for (int gesture = model.isRestless ? 550 : 0; gesture < 900 && !HasFailure(); ++gesture) {
             SCOPED_TRACE("seed " + std::to_string(seed) + ", gesture " + std::to_string(gesture));
             model.world.platform.meanwhile.assign(static_cast<std::size_t>(model.Choose(30)), [] {});
             model.world.platform.meanwhile.emplace_back([&model] { model.Disturb(); });
+            const int won = model.counts[1];
             model.PlayOneGesture();
             model.world.platform.meanwhile.clear();
-            if (std::exchange(model.isWon, false)) {
-                ++wins;
-                model.Deal();
+            if (std::exchange(model.isNewDeal, false)) {
+                EXPECT_NE(model.world.Order(), model.disk[Snapshot]);
+                model.Deal(model.world.Order());
             }
             model.Compare();
+            wins += model.counts[1] > won ? 1 : 0;
         }
     }
     EXPECT_GT(wins, 5) << "the games must come far enough";

@@ -9,33 +9,6 @@ namespace tessarine::test
 namespace
 {
 
-TEST(WholeGameTest, AWinIsToldAndCountedOnceAndTheNextGameDealt)
-{
-    // The rest of the game, done: all of four suits, and the last one up to its 6.
-    GameWorld::Position position{.columns = {{O9, O8, O7}}, .piles = {{}, {}, {}, {}, {}}};
-    for (int card = S0; card <= O6; ++card) {
-        position.piles[static_cast<std::size_t>(card / CardsInSuit)].push_back(card);
-    }
-    GameWorld world(position);
-    std::vector<std::string> told;
-    Answer(world.platform, "Ok", told);
-    // A press in the events after the message begins nothing.
-    world.platform.meanwhile.assign(400, [&world] {
-        world.form.cmdnewgame.UserActivates();
-        world.Press(world.form.cmdnewgame);
-    });
-    world.RightClick(O7);
-    world.platform.meanwhile.clear();
-    EXPECT_EQ(told, std::vector<std::string>{"Its all done!"});
-    EXPECT_EQ(world.platform.modalCaptions, std::vector<std::string>{"Tessarine"});
-    EXPECT_EQ(world.form.Score1.ThisSession[1].Caption(), "1");
-    EXPECT_EQ(world.form.Score1.AllSessions[2].Caption(), "1");
-    EXPECT_EQ(world.form.Score1.AllSessions[4].Caption(), "0");
-    EXPECT_EQ(world.Cards(7).size(), 7U) << "the next game is dealt";
-    EXPECT_EQ(world.Fault(), "");
-    EXPECT_EQ(world.platform.files["/app/tempgame.txt"], world.Order());
-}
-
 /// A press and its release that a layout or a move comes between begin nothing, and leave no mark.
 TEST(MiddleOfAMoveTest, APressAndItsReleaseBelongTogether)
 {

@@ -26,96 +26,6 @@ Texts Press(GameWorld& world, BoxControl& command, const Texts& answers)
     return told;
 }
 
-TEST(GameCommandsTest, SaveTakesTheFirstFreeNameAndTheDealFromItsStart)
-{
-    GameWorld world;
-    const std::string deal = world.platform.files["/app/tempgame.txt"];
-    world.RightClick(world.table.TopCard(7));
-    for (const std::string name : {"/app/savedgame;01.gam", "/app/savedgame;02.gam"}) {
-        EXPECT_EQ(Press(world, world.form.cmdSaveGame, {"Ok"}), Texts{"Game saved to file:\r\n" + name});
-        EXPECT_EQ(world.platform.files[name], deal);
-        world.platform.files["/app/tempgame.txt"] = "of another program in this folder";
-    }
-    for (int n = 1; n < 100; ++n) {
-        world.platform.files["/app/savedgame;" + TwoDigits(n) + ".gam"] = "mine";
-    }
-    const auto before = world.platform.files;
-    EXPECT_NE(Press(world, world.form.cmdSaveGame, {"Ok"})[0].find("99"), std::string::npos);
-    EXPECT_EQ(world.platform.files, before);
-}
-
-TEST(GameCommandsTest, LoadMakesTheFileTheCurrentGame)
-{
-    GameWorld other(7);
-    GameWorld world;
-    world.platform.files["/else/x.gam"] = other.Order();
-    world.Press(world.form.cmdLoadGame); // cancelled
-    EXPECT_NE(world.Order(), other.Order());
-
-    world.platform.chosenFiles.push_back("/else/x.gam");
-    EXPECT_EQ(Press(world, world.form.cmdLoadGame, {"Ok"}),
-              Texts{"Game restored from file:\r\n/else/x.gam"});
-    EXPECT_EQ(world.Order(), other.Order());
-    EXPECT_EQ(world.platform.files["/app/tempgame.txt"], other.Order());
-    EXPECT_EQ(world.platform.fileDialogs.back().types, "*.gam");
-    EXPECT_EQ(world.platform.fileDialogs.back().folder, "/app/");
-    EXPECT_EQ(world.form.Score1.AllSessions[1].Caption(), "0");
-
-    world.RightClick(world.table.TopCard(7));
-    world.platform.files.erase("/app/tempgame.txt"); // it is written anew
-    EXPECT_EQ(Press(world, world.form.cmdreset, {"Yes", "Ok"})[1], "Game restored");
-    EXPECT_EQ(world.Cards(7), other.Cards(7));
-    EXPECT_EQ(world.Fault(), "");
-}
-
-TEST(GameCommandsTest, WhatIsNoGameFileIsRefusedBeforeAnythingChanges)
-{
-    const GameWorld other(7);
-    const std::string good = other.Order();
-    std::string twice = good;
-    twice.replace(4, 2, good.substr(0, 2));
-    const Texts bad = {"",
-                       "nonsense",
-                       good.substr(0, 196),
-                       twice,
-                       "50" + good.substr(2),
-                       "+1" + good.substr(2),
-                       "\r\n" + good};
-    for (const std::string& text : bad) {
-        GameWorld world({.columns = {{S9}}, .stock = {C9}});
-        world.DragOnto(C9, FirstColumnBase + 2);
-        const std::string order = world.Order();
-        world.platform.files["/app/bad.gam"] = text;
-        world.platform.chosenFiles.push_back("/app/bad.gam");
-        const auto files = world.platform.files;
-        const Texts told = Press(world, world.form.cmdLoadGame, {"Ok"});
-        EXPECT_NE(told[0].find("/app/bad.gam"), std::string::npos);
-        EXPECT_EQ(world.Order(), order);
-        EXPECT_EQ(world.Cards(2), std::vector<int>{C9});
-        EXPECT_EQ(world.form.undo.Count(), 1U);
-        EXPECT_EQ(world.platform.files, files);
-        EXPECT_FALSE(world.platform.busy);
-    }
-    // LF alone ends a line too, and what follows the fiftieth does not count.
-    std::string lines = good;
-    std::erase(lines, '\r');
-    EXPECT_EQ(FaultOfGame(SplitLines(lines + "and more\n00\n")), "");
-}
-
-TEST(GameCommandsTest, NewGameAsksAndCounts)
-{
-    GameWorld world;
-    const std::string deal = world.Order();
-    Press(world, world.form.cmdnewgame, {"No"});
-    EXPECT_EQ(world.Order(), deal);
-    EXPECT_EQ(world.form.Score1.ThisSession[1].Caption(), "0");
-    EXPECT_EQ(Press(world, world.form.cmdnewgame, {"Yes"}), Texts{"Abandon current game?"});
-    EXPECT_NE(world.Order(), deal);
-    EXPECT_EQ(world.platform.files["/app/tempgame.txt"], world.Order());
-    EXPECT_EQ(world.form.Score1.AllSessions[4].Caption(), "1");
-    EXPECT_EQ(world.TakeSounds(), (Texts{"_menu.wav", "_menu.wav", "_shuf.wav"}));
-}
-
 TEST(ProgramCommandsTest, ExitStoresAndEndsAndAClosedWindowWritesNothing)
 {
     GameWorld world;
@@ -135,22 +45,6 @@ TEST(ProgramCommandsTest, ExitStoresAndEndsAndAClosedWindowWritesNothing)
     EXPECT_NE(world.platform.files["/app/tessarine.cfg"].find("\r\n 2 \r\n"), std::string::npos);
     EXPECT_EQ(world.TakeSounds(), (Texts{"_menu.wav", "_exit.wav"}));
     EXPECT_TRUE(world.form.AllForms().Loaded().empty());
-}
-
-TEST(ProgramCommandsTest, ScoresPanelLeavesTheTableLive)
-{
-    GameWorld world;
-    world.Press(world.form.cmdscore);
-    EXPECT_TRUE(world.form.Score1.Visible());
-    EXPECT_EQ(world.table.Picture2.Children().back(), &world.form.Score1);
-    world.Press(world.form.NextCard[1]);
-    EXPECT_EQ(world.TakeSounds(), (Texts{"_menu.wav", "_nextcard.wav"}));
-    world.platform.meanwhile.emplace_back([&] { world.form.cmdnewgame.UserActivates(); });
-    world.Press(world.form.Score1.Command2);
-    EXPECT_EQ(world.platform.plainMessages, Texts{"Clear ALL scores"});
-    EXPECT_TRUE(world.platform.modalCaptions.empty()) << "the question comes before any other";
-    world.Press(world.form.Score1.Command1);
-    EXPECT_FALSE(world.form.Score1.Visible());
 }
 
 /// A file is the old one, the new one, or was never there: whole in any case.
