@@ -40,7 +40,7 @@ TEST(ProgramCommandsTest, ExitStoresAndEndsAndAClosedWindowWritesNothing)
     EXPECT_TRUE(world.platform.modalCaptions.size() == 1 && world.platform.sounds.empty());
     world.Press(world.form.cmdhelp);
     world.ForgetSounds();
-    EXPECT_EQ(Press(world, world.form.cmdexit, {"Yes"}), Texts{"Exit?"});
+    EXPECT_EQ(Press(world, world.form.cmdexit, {"Yes"}), Texts{"Question: Exit?"});
     EXPECT_TRUE(world.platform.ended);
     EXPECT_NE(world.platform.files["/app/tessarine.cfg"].find("\r\n 2 \r\n"), std::string::npos);
     EXPECT_EQ(world.TakeSounds(), (Texts{"_menu.wav", "_exit.wav"}));

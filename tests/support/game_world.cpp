@@ -27,10 +27,24 @@ HeadlessPlatform& Prepared(HeadlessPlatform& platform, const std::string& scale 
 
 } // namespace
 
+std::string Told(const MsgForm& box)
+{
+    static constexpr std::array names = {"Question", "Exclamation", "Information",
+                                         "Error",    "Critical",    "Happy"};
+    std::string told;
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        const Image& icon = box.icons.at(i);
+        const bool isThere = icon.Visible() && icon.OwnerForm() == &box && icon.Left() == 90 &&
+                             icon.Top() == 90 && icon.Width() == 480 && icon.Height() == 480;
+        told += isThere ? names.at(i) + std::string(": ") : "";
+    }
+    return told + box.Label1.Caption();
+}
+
 void Answer(HeadlessPlatform& platform, const std::string& caption, std::vector<std::string>& told)
 {
     platform.OnNextModal([&platform, caption, &told](Form& form) {
-        told.push_back(static_cast<MsgForm&>(form).Label1.Caption());
+        told.push_back(Told(static_cast<MsgForm&>(form)));
         Control* const button = HeadlessPlatform::FindShown(form, caption);
         if (button == nullptr) {
             throw std::logic_error("no button " + caption + " on: " + told.back());

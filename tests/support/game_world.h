@@ -56,7 +56,9 @@ public:
     std::string Fault() { return FaultOfTable(form); }
 };
 
-/// The user presses the button with this caption on the next message box, whose text is noted.
+/// The icon and the text of a message box.
+std::string Told(const MsgForm& box);
+/// The user presses the button with this caption on the next message box; what that told is noted.
 void Answer(HeadlessPlatform& platform, const std::string& caption, std::vector<std::string>& told);
 
 /// The cards by suit letter and number.

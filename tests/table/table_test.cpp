@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <array>
 #include <cmath>
 #include <limits>
@@ -104,24 +103,31 @@ TEST(ResizingTest, TheWindowSnapsToTheTable)
     EXPECT_FALSE(world.platform.HasWork());
 }
 
-TEST(TableDescriptionTest, WhatAListenerIsTold)
+TEST(MovesTest, ASlideTakesTenStepsOfWholeTwipsInFrontOfAll)
 {
-    GameWorld world(
-        {.columns = {{}, {30, H7}}, .stock = {C2, S3}, .piles = {{D0, D1}}, .faceDownInEachColumn = 1});
-    const auto told = [&](int item) { return world.table.cardy[item].AccessibleName(); };
-    EXPECT_EQ(told(H7), "7 of H, column 2");
-    EXPECT_EQ(told(30), "face-down card, column 2");
-    EXPECT_EQ(told(FirstColumnBase), "empty column 1");
-    EXPECT_EQ(told(S3), "3 of S, stock");
-    EXPECT_EQ(told(C2), "");
-    world.form.ring.NextStockCard();
-    world.form.ring.NextStockCard();
-    EXPECT_EQ(told(StockItem), "stock, between two passes");
-    GameWorld empty(GameWorld::Position{});
-    empty.form.ring.NextStockCard();
-    EXPECT_EQ(empty.table.cardy[StockItem].AccessibleName(), "stock, used up");
-    EXPECT_EQ(told(D1), "1 of D, finished pile 1");
-    EXPECT_EQ(told(D0), "");
+    GameWorld world({.columns = {{H6}, {}, {S7, H5}}});
+    std::vector<Point> seen;
+    Timer watch(world.platform);
+    watch.OnTick = [&] {
+        EXPECT_EQ(world.table.Picture2.Children().back(), &world.table.cardy[H5]);
+        seen.push_back(world.Place(H5));
+    };
+    watch.SetInterval(3);
+    watch.SetEnabled(true);
+    const auto start = world.platform.milliseconds;
+    world.RightClick(H5);
+    watch.SetEnabled(false);
+    EXPECT_EQ(world.platform.milliseconds - start, 30);
+    std::vector<Point> expected; // an exact half goes to the even neighbour
+    for (const Twips y : {1038, 1000, 962, 924, 886, 848, 810, 772, 734, 696}) {
+        expected.push_back({1000 - 96 * (static_cast<Twips>(expected.size()) + 1), y});
+    }
+    EXPECT_EQ(seen, expected);
+    EXPECT_EQ(world.Place(H5), (Point{40, 1075}));
+    world.form.shared.MoveSteps = 0;
+    world.DragOnto(H5, FirstColumnBase + 1);
+    world.RightClick(H5);
+    EXPECT_EQ(world.platform.milliseconds - start, 30);
 }
 
 } // namespace
