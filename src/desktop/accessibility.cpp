@@ -155,15 +155,10 @@ public:
     }
     QAccessibleInterface* childAt(int x, int y) const override
     {
-        if (QAccessibleInterface* widget = QAccessibleWidget::childAt(x, y)) {
-            return widget;
-        }
-        const auto named = Named();
-        const auto front =
-            std::ranges::find_if(named.rbegin(), named.rend(), [&](const Control* control) {
-                return ThingOf(*control)->rect().contains(x, y);
-            });
-        return front == named.rend() ? nullptr : ThingOf(**front);
+        // Widgets stand in front of all that is painted, and the last of either in front of the others.
+        const int widgets = QAccessibleWidget::childCount();
+        QAccessibleInterface* front = FrontMost(0, widgets, {x, y});
+        return front == nullptr ? FrontMost(widgets, childCount(), {x, y}) : front;
     }
     QString text(QAccessible::Text kind) const override
     {
@@ -211,6 +206,17 @@ public:
     }
 
 private:
+    /// The last that is to be seen at a place of the screen, of some of the children; none if none is.
+    QAccessibleInterface* FrontMost(int first, int last, QPoint place) const
+    {
+        for (int index = last - 1; index >= first; --index) {
+            QAccessibleInterface* const thing = child(index);
+            if (thing != nullptr && !thing->state().invisible && thing->rect().contains(place)) {
+                return thing;
+            }
+        }
+        return nullptr;
+    }
     std::vector<const Control*> Named() const
     {
         std::vector<const Control*> named;

@@ -152,8 +152,12 @@ bool FormWidgets::IsFrozen(const Control& control) const
 void FormWidgets::Freeze(const Control* surface)
 {
     Peer* const thawed = frozen_ == nullptr ? nullptr : PeerOf(*frozen_);
+    const bool isSeen = window_.Widget().isVisible();
+    if (isSeen) {
+        FollowChanges(); // what is painted elsewhere leaves its old place
+    }
     frozen_ = surface;
-    if (window_.Widget().isVisible()) {
+    if (isSeen) {
         RefreshTree(form_);
     }
     if (thawed != nullptr) {

@@ -42,12 +42,17 @@ public:
         return isText && entries_ != nullptr && row < entries_->Count() ? ToText(entries_->At(row))
                                                                         : QVariant();
     }
-    /// The list says what begins with a text that is typed.
+    /// The list says what begins with a text that is typed. The same letter once more means the next one
+    /// that begins with it.
     QModelIndexList match(const QModelIndex& start, int /*role*/, const QVariant& text, int /*hits*/,
                           Qt::MatchFlags /*flags*/) const override
     {
         const auto from = static_cast<std::size_t>(start.row());
-        const auto row = entries_->Find(ToBytes(text.toString()), from);
+        const QString typed = text.toString();
+        auto row = entries_->Find(ToBytes(typed), from);
+        if (!row && typed.count(typed.front()) == typed.size()) {
+            row = entries_->Find(ToBytes(typed.left(1)), from);
+        }
         return row ? QModelIndexList{index(static_cast<int>(*row))} : QModelIndexList();
     }
 

@@ -12,7 +12,6 @@
 //     void WhenModal(std::function<void()> user);  what the user does with the next modal form
 //     void Click(Control& control);        a left click in the middle of it, as a user makes it
 //     void MakeRefuse(Form& form);         the window of this shown form keeps its size from now on
-//     int DrawingsOf(Control& control);    how often what stands on it was drawn; may be left out
 #pragma once
 
 #include "runtime/controls.h"
@@ -154,23 +153,6 @@ TYPED_TEST_P(PlatformContract, AWindowTakesWholePixelsOrKeepsItsSize)
     EXPECT_EQ(fitted({kept.width + 1500, kept.height}), kept);
 }
 
-TYPED_TEST_P(PlatformContract, AFrozenSurfaceIsDrawnWhenItThaws)
-{
-    if constexpr (requires(TypeParam world, Control & control) { world.DrawingsOf(control); }) {
-        TestForm form(this->forms, "frozen");
-        form.Show();
-        this->world.LetTimePass(100);
-        const int before = this->world.DrawingsOf(form.surface);
-        this->platform.FreezeSurface(&form.surface);
-        form.label.SetCaption("7");
-        this->platform.RunPendingEvents();
-        EXPECT_EQ(this->world.DrawingsOf(form.surface), before);
-        this->platform.FreezeSurface(nullptr);
-        this->world.LetTimePass(50);
-        EXPECT_EQ(this->world.DrawingsOf(form.surface), before + 1);
-    }
-}
-
 TYPED_TEST_P(PlatformContract, AFormMayGoAtAnyTime)
 {
     TestForm stays(this->forms, "stays");
@@ -254,7 +236,7 @@ TYPED_TEST_P(PlatformContract, TextIsMeasuredInTwips)
 
 REGISTER_TYPED_TEST_SUITE_P(PlatformContract, ATimerTicksInTimeAndWaitingSleeps,
                             ModalFormsNestAndShutOthersOut, AWindowTakesWholePixelsOrKeepsItsSize,
-                            AFrozenSurfaceIsDrawnWhenItThaws, AFormMayGoAtAnyTime, FilesKeepTheirBytes,
-                            OneClockManyDraws, TextIsMeasuredInTwips);
+                            AFormMayGoAtAnyTime, FilesKeepTheirBytes, OneClockManyDraws,
+                            TextIsMeasuredInTwips);
 
 } // namespace tessarine::contract

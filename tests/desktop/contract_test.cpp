@@ -27,15 +27,9 @@ public:
         platform_.WindowOf(form)->showMaximized();
         LetTimePass(20);
     }
-    int DrawingsOf(Control& control)
-    {
-        paints_.Watch(WidgetOf(platform_, control)); // a second time changes nothing
-        return paints_.events;
-    }
 
 private:
     DesktopPlatform platform_;
-    PaintCounter paints_;
     QTemporaryDir folder_;
     QElapsedTimer clock_;
 };

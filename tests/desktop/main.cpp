@@ -2,7 +2,6 @@
 #include "stage.h"
 
 #include <QDir>
-#include <QTemporaryFile>
 
 namespace
 {
@@ -25,17 +24,9 @@ protected:
 
 int main(int argc, char* argv[])
 {
-    // Windows on two screens side by side that nobody sees, with everything else as on real ones.
-    QTemporaryFile screens(QStringLiteral("screens-XXXXXX"));
-    if (!screens.open()) {
-        return EXIT_FAILURE;
-    }
-    screens.write(R"({"screens": [
-        {"name": "left", "x": 0, "y": 0, "width": 800, "height": 800},
-        {"name": "right", "x": 800, "y": 0, "width": 900, "height": 700}]})");
-    screens.close();
+    // Windows on screens that nobody sees, with everything else as on real ones.
     // The colon of a drive would end the name.
-    const QString name = QDir::current().relativeFilePath(screens.fileName());
+    const QString name = QDir::current().relativeFilePath(QStringLiteral(TESSARINE_SCREENS));
     qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + name.toUtf8());
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
         Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);

@@ -6,12 +6,10 @@
 #include "runtime/controls.h"
 #include "runtime/form.h"
 
-#include <QAbstractScrollArea>
 #include <QApplication>
 #include <QImage>
 #include <QMessageBox>
-#include <QPaintEvent>
-#include <QScrollBar>
+#include <QScreen>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -22,6 +20,11 @@
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
+
+inline void PrintTo(const QRect& rect, std::ostream* out)
+{
+    *out << rect.width() << " by " << rect.height() << " at " << rect.x() << ", " << rect.y();
+}
 
 namespace tessarine
 {
@@ -59,7 +62,7 @@ private:
     DesktopPlatform& platform_;
 };
 
-/// The widget of a windowed control on a shown form.
+/// The widget of a windowed control on a shown form; the window, where it has none.
 inline QWidget& WidgetOf(const DesktopPlatform& platform, const Control& control)
 {
     FormWindow& window = *platform.WindowOf(*control.OwnerForm());
@@ -70,28 +73,6 @@ inline QWidget& WidgetOf(const DesktopPlatform& platform, const Control& control
     }
     return window;
 }
-
-/// Counts what is painted on widgets.
-class PaintCounter : public QObject
-{
-public:
-    void Watch(QWidget& widget) { widget.installEventFilter(this); }
-
-    int events = 0;
-    int pixels = 0;
-
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override
-    {
-        if (event->type() == QEvent::Paint) {
-            ++events;
-            for (const QRect& rect : static_cast<QPaintEvent*>(event)->region()) {
-                pixels += rect.width() * rect.height();
-            }
-        }
-        return QObject::eventFilter(watched, event);
-    }
-};
 
 /// How many users wait for a modal window. One that nobody waits for, or that stays when its user has
 /// done, ends the test program with its name: it would stand there for ever.
@@ -127,16 +108,6 @@ inline void WhenModal(std::function<void()> user,
     });
 }
 
-/// Something that takes the keyboard and draws little.
-class BoxButton : public UserControl
-{
-public:
-    bool TakesFocus() const override { return true; }
-
-protected:
-    void Draw(Canvas& canvas) const override { canvas.DrawLine({0, 0}, {30, 0}, White); }
-};
-
 /// A form for the test to furnish and show, and a surface that it may put there.
 class DesktopTest : public testing::Test
 {
@@ -144,11 +115,11 @@ protected:
     DesktopTest() { surface.SetBounds(30, 450, 3900, 3000); }
     void Events() { QTest::qWait(1); }
     /// The widget of the toolkit that stands for a control.
-    template <class Widget> Widget& Native(const Control& control)
+    template <class Widget = QWidget> Widget& Native(const Control& control)
     {
         return dynamic_cast<Widget&>(WidgetOf(platform, control));
     }
-    void Show(std::initializer_list<Control*> controls)
+    void Show(const std::vector<Control*>& controls)
     {
         for (Control* control : controls) {
             form.Add(*control);

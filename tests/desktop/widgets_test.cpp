@@ -5,10 +5,12 @@
 
 #include <QAbstractItemView>
 #include <QDir>
-#include <QRadioButton>
+#include <QHelpEvent>
+#include <QScrollBar>
 #include <QTextBlock>
 #include <QTextBrowser>
 #include <QTextLayout>
+#include <QToolTip>
 
 #include <cstring>
 
@@ -21,9 +23,12 @@ using WidgetsTest = DesktopTest;
 
 TEST_F(WidgetsTest, AListShowsAsChosenWhatItsControlSaysAndNothingElse)
 {
+    const std::string wide(80, 'w');
     ListBox list(TextList::Order::Sorted);
     list.SetBounds(150, 150, 1800, 2400);
-    list.FillWhenAsked([] { return std::vector<std::string>{"sand", "clay", "\u00C9TE", "mist"}; });
+    list.SetToolTip("fonts");
+    list.FillWhenAsked(
+        [&] { return std::vector<std::string>{"sand", "clay", "\u00C9TE", "mist", "silt", wide}; });
     std::string told;
     list.MouseUp = [&](const MouseEvent& event) {
         told += list.SelectedText() + std::to_string(event.button) + ' ';
@@ -46,17 +51,27 @@ TEST_F(WidgetsTest, AListShowsAsChosenWhatItsControlSaysAndNothingElse)
     };
     const auto type = [&](Qt::Key key) { return after([&] { hand.Type(list, key); }); };
     EXPECT_EQ(after([] {}), "");
-    EXPECT_EQ(click(row(3) + QPoint(0, 60), Qt::RightButton), "2 ") << "on nothing";
+    EXPECT_EQ(click(row(5) + QPoint(0, 40), Qt::RightButton), "2 ") << "on nothing";
     EXPECT_EQ(after([&] { hand.Press(list, row(2)); }), "");
     EXPECT_EQ(after([&] { hand.Release(list, {-20, 20}); }), "") << "not over the list";
     EXPECT_EQ(type(Qt::Key_Down), "clay1 ") << "the first row";
     EXPECT_EQ(click(row(1), Qt::RightButton), "mist2 ");
     EXPECT_EQ(click(row(2), Qt::MiddleButton), "sand4 ");
+    QApplication::setKeyboardInputInterval(50);
+    EXPECT_EQ(type(Qt::Key_S), "silt1 ");
+    EXPECT_EQ(type(Qt::Key_S), "sand1 ") << "the next, round and round";
+    QTest::qWait(80);
     EXPECT_EQ(type(Qt::Key_Eacute), "\u00C9TE1 ");
     EXPECT_EQ(type(Qt::Key_Down), "") << "it stands on the last row";
     form.busy = true;
     EXPECT_EQ(type(Qt::Key_Home) + click(row(1), Qt::LeftButton), "");
     form.busy = false;
+    for (const auto& [number, tip] : {std::pair(1, std::string("fonts")), {4, wide}}) {
+        const QPoint place = view.visualRect(view.model()->index(number, 0)).center();
+        QHelpEvent rests(QEvent::ToolTip, place, view.viewport()->mapToGlobal(place));
+        QCoreApplication::sendEvent(view.viewport(), &rests);
+        EXPECT_EQ(ToBytes(QToolTip::text()), tip);
+    }
 
     // What the program does comes to the widget and not back.
     list.FillWhenAsked([] { return std::vector<std::string>(200, "font"); });
@@ -76,36 +91,39 @@ TEST_F(WidgetsTest, AScrollBarMayHaveItsLargerEndAtTheTop)
 {
     ScrollBar red(ScrollBar::Direction::Down);
     red.SetBounds(150, 150, 255, 1800);
-    red.SetRange(255, 0, 1, 1);
+    red.SetRange(255, 0, 3, 40);
     red.SetValue(255);
-    int changes = 0;
-    red.OnChange = [&] { ++changes; };
+    std::vector<Whole> heard;
+    red.OnChange = [&] { heard.push_back(red.Value()); };
     Show({&red});
-    const auto& bar = Native<QScrollBar>(red);
-    const QPoint thumb(8, 25); // while it is at the top
-    EXPECT_EQ(bar.value(), bar.minimum()) << "255 is at the top";
+    const QPoint thumb(8, 20); // while it is at the top
     hand.Click(red, {8, 112}); // the lower arrow
-    EXPECT_EQ(red.Value(), 254);
+    hand.Click(red, {8, 95});  // below the thumb
+    EXPECT_EQ(heard, (std::vector<Whole>{252, 212}));
+    red.SetValue(255);
+    Events();
     hand.Press(red, thumb);
     hand.Move(red, thumb + QPoint(0, 20));
-    EXPECT_EQ(changes, 1) << "a thumb on its way says nothing";
-    hand.Release(red, thumb + QPoint(0, 20));
-    EXPECT_TRUE(changes == 2 && red.Value() < 250);
-
-    red.SetValue(40);
+    EXPECT_EQ(heard.size(), 3U) << "a thumb on its way says nothing";
+    red.SetToolTip("what is said of it meanwhile");
     Events();
-    EXPECT_EQ(bar.value(), 215);
+    hand.Release(red, thumb + QPoint(0, 20));
+    EXPECT_TRUE(heard.size() == 4 && red.Value() < 230) << red.Value();
 }
 
 TEST_F(WidgetsTest, OptionsTurnOnlyAsTheirControlsDo)
 {
     OptionButton one;
     OptionButton two;
-    one.SetBounds(150, 300, 1800, 240);
-    two.SetBounds(150, 600, 1800, 240);
-    Show({&one, &two});
-    const auto& first = Native<QRadioButton>(one);
-    const auto& second = Native<QRadioButton>(two);
+    PushButton button;
+    TextBox text;
+    int presses = 0;
+    form.MouseDown = text.MouseDown = button.MouseUp = [&](const MouseEvent&) { ++presses; };
+    const std::vector<Control*> all = {&one, &two, &button, &text};
+    for (std::size_t i = 0; i < all.size(); ++i) {
+        all[i]->SetBounds(150, 300 * static_cast<Twips>(i), 1800, 240);
+    }
+    Show(all);
     for (const Control* each : std::initializer_list<Control*>{&one, &two, &two}) {
         hand.Click(*each); // a second time, too: it stays
     }
@@ -116,10 +134,19 @@ TEST_F(WidgetsTest, OptionsTurnOnlyAsTheirControlsDo)
     form.busy = true;
     hand.Click(one);
     form.busy = false;
-    EXPECT_TRUE(second.isChecked() && !first.isChecked()) << "put back";
-    one.SetValue(true);
+    EXPECT_TRUE(two.Value());
+    QTest::mousePress(&Native(one), Qt::RightButton);
+    QTest::mouseRelease(&Native(one), Qt::RightButton, {}, {20, 100});
+    EXPECT_TRUE(two.Value()) << "released somewhere else";
+    hand.Click(button, {20, 8}, Qt::RightButton);
+    Native(button).setFocus();
+    hand.Type(button, Qt::Key_Return);
+    hand.Click(text);
+    EXPECT_EQ(presses, 3);
+    one.SetEnabled(false);
     Events();
-    EXPECT_TRUE(first.isChecked() && !second.isChecked());
+    hand.Click(one);
+    EXPECT_TRUE(two.Value() && presses == 3) << "nor does what lies behind it hear of it";
 }
 
 TEST_F(WidgetsTest, CaseIsFoldedAsTheToolkitFoldsIt)
@@ -141,6 +168,7 @@ TEST_F(WidgetsTest, APageIsLoadedAnewAndEveryVisitShows)
     ASSERT_TRUE(QDir().mkdir(ToText(page)));
     const Dress dress;
     Form4 help(forms, dress);
+    help.SetBackColor(Black);
     help.Tag = page + "/a page.htm";
     const auto write = [&](const std::string& words) {
         const std::string lines = QByteArray("<p>line</p>").repeated(400).toStdString();
@@ -148,31 +176,36 @@ TEST_F(WidgetsTest, APageIsLoadedAnewAndEveryVisitShows)
                                 << "<p><a name='end'></a><a href='#end'>again</a></p>" << lines;
     };
     write("before");
-    Show({});
+    form.Show();
     help.Show();
     Events();
     Browser& browser = help.WebBrowser1;
     auto& text = Native<QTextBrowser>(browser);
     QScrollBar& bar = *text.verticalScrollBar();
     EXPECT_TRUE(text.toPlainText().startsWith("before"));
+    EXPECT_EQ(text.viewport()->grab().toImage().pixelColor(3, 3), QColor(Qt::white));
     const auto placeOf = [&](const char* link) {
         const QTextCursor found = text.document()->find(QString::fromLatin1(link));
         return text.viewport()->mapTo(&text, text.cursorRect(found).center() - QPoint(8, 0));
     };
-    const auto click = [&](const char* link) {
-        hand.Click(browser, placeOf(link));
-        Events();
-        return bar.value();
-    };
-    const int end = click("before");
+    hand.Press(browser, placeOf("before"));
+    hand.Release(browser, placeOf("before") + QPoint(0, 100));
+    EXPECT_EQ(browser.Location().anchor, "") << "the hand has thought better of it";
+    hand.Click(browser, placeOf("before"));
+    Events();
+    const int end = bar.value();
     EXPECT_GT(end, 500);
     EXPECT_EQ(browser.Location(), (Address{help.Tag, "end"}));
-    bar.setValue(end - 30);
-    EXPECT_EQ(click("again"), end) << "a second time";
+    QTest::keyClick(&text, Qt::Key_Left, Qt::AltModifier);
+    EXPECT_EQ(bar.value(), end) << "the program's own buttons go back";
     browser.GoBack();
     Events();
     EXPECT_EQ(bar.value(), 0);
-    browser.GoForward();
+    text.setFocus();
+    QTest::keyClick(&text, Qt::Key_Tab);
+    QTest::keyClick(&text, Qt::Key_Return);
+    Events();
+    EXPECT_EQ(bar.value(), end) << "by keyboard";
 
     // A link that brings the page to the front is followed, however the load falls between.
     for (const int turn : {0, 1, 2}) {
@@ -198,6 +231,9 @@ TEST_F(WidgetsTest, APageIsLoadedAnewAndEveryVisitShows)
         EXPECT_EQ(bar.value(), end) << turn;
         EXPECT_TRUE(text.toPlainText().startsWith(ToText("after" + std::to_string(turn))));
     }
+    browser.Navigate("/nowhere/<page>.htm");
+    Events();
+    EXPECT_TRUE(text.toPlainText().contains("/nowhere/<page>.htm"));
 }
 
 TEST_F(WidgetsTest, APageKeepsItsLinesShortAndDrawsItsPicturesWithCare)
@@ -212,9 +248,9 @@ TEST_F(WidgetsTest, APageKeepsItsLinesShortAndDrawsItsPicturesWithCare)
                         << words.repeated(100).toStdString();
     Browser browser;
     Show({&browser});
+    browser.Navigate(page);
     for (const Twips width : {3000.0, 30000.0}) {
         browser.SetBounds(0, 0, width, 3000);
-        browser.Navigate(page);
         Events();
         auto& text = Native<QTextBrowser>(browser);
         EXPECT_EQ(text.horizontalScrollBar()->maximum(), 0);

@@ -1,11 +1,18 @@
-#include "stage.h"
-
+// Windows and boxes: where they stand, whose they are, what the keyboard does.
 #include "desktop/placing.h"
 #include "desktop/size_talk.h"
+#include "desktop/text.h"
+#include "kit/message_box.h"
+#include "stage.h"
 
 #include <QAbstractEventDispatcher>
 #include <QCursor>
 #include <QElapsedTimer>
+#include <QFile>
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QPushButton>
+#include <QTreeView>
 
 namespace tessarine
 {
@@ -17,11 +24,11 @@ class WindowTest : public DesktopTest
 protected:
     WindowTest()
     {
-        first.SetBounds(0, 0, 900, 350);
-        second.SetBounds(1500, 0, 900, 350);
-        third.SetBounds(3000, 0, 900, 350);
         form.CancelControl = &second;
-        for (BoxButton* button : {&first, &second, &third}) {
+        form.Add(list);
+        list.SetBounds(0, 900, 1500, 1500);
+        for (BoxControl* button : {&first, &second}) {
+            button->SetBounds(button == &first ? 0 : 1500, 0, 900, 350);
             button->MouseUp = [this, button](const MouseEvent&) {
                 pressed = button;
                 form.Hide();
@@ -29,100 +36,118 @@ protected:
             form.Add(*button);
         }
     }
-    void Type(const std::vector<Qt::Key>& keys)
+    const Control* AnswerTo(const std::vector<Qt::Key>& keys)
     {
-        for (const Qt::Key key : keys) {
-            hand.Type(form, key);
-        }
+        WhenModal([this, keys] {
+            for (const Qt::Key key : keys) {
+                hand.Type(form, key);
+            }
+        });
+        form.ShowModal(nullptr);
+        return std::exchange(pressed, nullptr);
     }
+    QMessageBox& MessageBox() { return dynamic_cast<QMessageBox&>(*QApplication::activeModalWidget()); }
 
-    BoxButton first;
-    BoxButton second;
-    BoxButton third;
-    const BoxButton* pressed = nullptr;
+    ListBox list;
+    BoxControl first;
+    BoxControl second;
+    const Control* pressed = nullptr;
 };
 
 TEST_F(WindowTest, TheKeyboardWorksADialog)
 {
-    const auto answer = [this](const std::vector<Qt::Key>& keys) {
-        WhenModal([this, keys] { Type(keys); });
-        form.ShowModal(nullptr);
-        return std::exchange(pressed, nullptr);
-    };
-    EXPECT_EQ(answer({Qt::Key_Return}), &first) << "the first control has the keyboard";
-    EXPECT_EQ(answer({Qt::Key_Tab, Qt::Key_Space}), &second);
-    EXPECT_EQ(answer({Qt::Key_Escape}), &second);
-}
-
-TEST_F(WindowTest, AFormMayTakeNoKeysAndTheCloseBoxAsksIt)
-{
-    form.TakesKeys = false;
-    form.HasCloseBox = false;
-    Show({});
-    Type({Qt::Key_Tab, Qt::Key_Space, Qt::Key_Return, Qt::Key_Escape});
+    first.SetVisible(false); // its widget is made last
+    EXPECT_EQ(AnswerTo({Qt::Key_Escape}), &second) << "past a list that has the keyboard";
+    EXPECT_EQ(AnswerTo({Qt::Key_Tab, Qt::Key_Space}), &second);
+    first.SetVisible(true);
+    EXPECT_EQ(AnswerTo({Qt::Key_Tab, Qt::Key_Enter}), &first);
+    list.SetEnabled(false);
+    EXPECT_EQ(AnswerTo({Qt::Key_Return}), &first);
+    list.SetVisible(false);
+    EXPECT_EQ(AnswerTo({Qt::Key_Backtab, Qt::Key_Return}), &second);
+    form.Show();
+    QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, {}, {}, true);
+    QCoreApplication::sendEvent(&Native(first), &held);
     EXPECT_EQ(pressed, nullptr);
-    EXPECT_FALSE(platform.WindowOf(form)->windowFlags().testFlag(Qt::WindowCloseButtonHint));
-    platform.WindowOf(form)->close();
-    EXPECT_TRUE(form.IsShown());
-    form.HasCloseBox = true;
-    platform.WindowOf(form)->close();
-    EXPECT_FALSE(form.IsShown() || platform.WindowOf(form)->isVisible());
+    form.TakesKeys = false;
+    form.Unload();
+    form.Show();
+    for (const auto key : {Qt::Key_Tab, Qt::Key_Space, Qt::Key_Return}) {
+        hand.Type(form, key);
+    }
+    EXPECT_EQ(pressed, nullptr);
+
+    MsgForm box(forms);
+    for (const auto& [style, answer] : std::vector<std::pair<const char*, Whole>>{
+             {"vbyesno", AnswerNo}, {"vbokcancel", 2}, {"vbyesno", AnswerNo}, {"vbyesno+vbcancel", 2}}) {
+        WhenModal([&] { hand.Type(box, Qt::Key_Return); });
+        EXPECT_EQ(box.MsgboxA("Exit?", style), answer) << "what changes nothing: " << style;
+    }
 }
 
-TEST_F(WindowTest, TellsItsNameAndWhichKeysAreHeldAtAPress)
+TEST_F(WindowTest, AWindowHasTheTitleTheIconAndTheButtonsOfItsFrame)
 {
-    std::vector<int> held;
-    first.MouseDown = [&](const MouseEvent& event) { held.push_back(event.shift); };
-    Show({});
-    EXPECT_EQ(platform.WindowOf(form)->windowTitle(), "test");
+    const Picture icon;
+    form.SetIcon(icon);
+    for (const bool has : {false, true}) {
+        form.HasCloseBox = has;
+        form.Sizable = has;
+        form.Show();
+        QTest::qWait(20);
+        QWidget& window = *platform.WindowOf(form);
+        EXPECT_EQ(window.windowTitle(), QStringLiteral("test"));
+        EXPECT_FALSE(window.windowIcon().isNull());
+        EXPECT_EQ(window.windowFlags().testFlag(Qt::WindowCloseButtonHint), has);
+        EXPECT_EQ(window.windowFlags().testFlag(Qt::WindowMaximizeButtonHint), has);
+        window.close();
+        EXPECT_EQ(form.IsShown() || window.isVisible(), !has);
+        form.Unload();
+    }
+    form.Show();
+    platform.WindowOf(form)->showMinimized();
+    form.Show();
+    EXPECT_FALSE(platform.WindowOf(form)->isMinimized());
+}
+
+TEST_F(WindowTest, APressTellsItsKeysAndOneWhoseReleaseWasLostIsOver)
+{
+    std::vector<int> heard;
+    first.MouseDown = [&](const MouseEvent& event) { heard.push_back(event.shift); };
+    first.MouseUp = [&](const MouseEvent&) { heard.push_back(-1); };
+    form.Show();
     for (const auto key : {Qt::ShiftModifier, Qt::ControlModifier, Qt::AltModifier}) {
         QTest::mouseClick(platform.WindowOf(form)->windowHandle(), Qt::LeftButton, key, {5, 5});
     }
-    EXPECT_EQ(held, (std::vector<int>{1, 2, 4}));
-}
-
-TEST_F(WindowTest, ALostReleaseDoesNotHoldTheMouseForEver)
-{
-    std::string heard;
-    first.MouseUp = [&](const MouseEvent&) { heard += "up "; };
-    second.MouseDown = [&](const MouseEvent&) { heard += "other"; };
-    Show({});
     form.FeedMouseDown({LeftButton, 0, 100, 100}); // and its release never comes
-    ASSERT_EQ(form.Captured(), &first);
     hand.Click(second);
-    EXPECT_EQ(heard, "up other");
+    EXPECT_EQ(heard, (std::vector{1, -1, 2, -1, 4, -1, 0, -1}));
+    EXPECT_EQ(pressed, &second);
 }
 
 TEST_F(WindowTest, StandsWithItsFrameInTheMiddleOfItsOwnerOrOfTheScreenWithThePointer)
 {
+    const QRect right(800, 0, 900, 700);
     const auto middle = [](const QRect& rect) { return rect.topLeft() + rect.bottomRight(); };
     const auto frameOf = [this](const Form& one) { return platform.WindowOf(one)->frameGeometry(); };
     Form box(forms, "box", {3000, 900});
     QCursor::setPos(1000, 300);
     Show({});
-    EXPECT_EQ(middle(frameOf(form)), middle({800, 0, 900, 700}));
+    EXPECT_EQ(middle(frameOf(form)), middle(right));
     QCursor::setPos(100, 300);
-    platform.WindowOf(form)->move(1100, 90);
-    const auto runBox = [&](const std::function<void()>& check) {
+    for (const bool beside : {false, true}) {
+        platform.WindowOf(form)->move(1100, 90);
+        box.StandsBeside = beside;
         WhenModal([&] {
-            check();
+            EXPECT_GT(frameOf(box).width(), 200) << "without a frame this tries nothing";
+            EXPECT_EQ(middle(frameOf(box)) == middle(frameOf(form)), !beside);
+            EXPECT_EQ(frameOf(box).intersects(frameOf(form)), !beside);
+            EXPECT_TRUE(right.contains(frameOf(box)));
+            EXPECT_EQ(platform.WindowOf(box)->windowHandle()->transientParent(),
+                      platform.WindowOf(form)->windowHandle());
             box.Hide();
         });
         box.ShowModal(&form);
-    };
-    runBox([&] {
-        EXPECT_GT(frameOf(box).width(), 200) << "without a frame this tries nothing";
-        EXPECT_EQ(middle(frameOf(box)), middle(frameOf(form)));
-    });
-    box.StandsBeside = true;
-    runBox([&] {
-        EXPECT_FALSE(frameOf(box).intersects(frameOf(form)));
-        EXPECT_TRUE(QRect(800, 0, 900, 700).contains(frameOf(box)));
-    });
-    box.StandsBeside = false;
-    platform.WindowOf(form)->move(810, -20);
-    form.SetClientArea({1500, 600});
-    runBox([&] { EXPECT_TRUE(QRect(800, 0, 900, 700).contains(frameOf(box))); });
+    }
 }
 
 TEST(PlacingTest, AWindowIsWhollyOnTheScreenOfItsOwner)
@@ -143,31 +168,30 @@ TEST_F(WindowTest, AWaitEndsWithTheEventThatItHandledAndInsideOneOthersSleep)
 {
     QTimer far; // ends a wait that sleeps on
     far.start(5000);
-    const auto wait = [this](const std::function<void()>& posted) {
-        QElapsedTimer clock;
-        clock.start();
-        QMetaObject::invokeMethod(qApp, posted, Qt::QueuedConnection);
-        platform.WaitForEvent();
-        return clock.elapsed();
-    };
-    EXPECT_LT(wait([] {}), 2000);
     int sleeps = 0;
     QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, &far,
                      [&] { ++sleeps; });
-    EXPECT_LT(wait([] {
-                  QEventLoop loop;
-                  QTimer::singleShot(100, &loop, &QEventLoop::quit);
-                  loop.exec();
-              }),
-              2000);
-    EXPECT_LT(wait([this] {
-                  bool over = false;
-                  QTimer::singleShot(100, qApp, [&] { over = true; });
-                  while (!over) {
-                      platform.WaitForEvent();
-                  }
-              }),
-              2000);
+    const std::vector<std::function<void()>> works = {
+        [] {},
+        [] {
+            QEventLoop loop;
+            QTimer::singleShot(100, &loop, &QEventLoop::quit);
+            loop.exec();
+        },
+        [this] {
+            bool over = false;
+            QTimer::singleShot(100, qApp, [&] { over = true; });
+            while (!over) {
+                platform.WaitForEvent();
+            }
+        }};
+    for (const auto& work : works) {
+        QElapsedTimer clock;
+        clock.start();
+        QMetaObject::invokeMethod(qApp, work, Qt::QueuedConnection);
+        platform.WaitForEvent();
+        EXPECT_LT(clock.elapsed(), 2000);
+    }
     EXPECT_LT(sleeps, 50) << "a loop inside a wait keeps a core busy";
 }
 
@@ -190,6 +214,90 @@ TEST_F(WindowTest, OnlyAWindowThatGetsItsOldSizeBackHoldsIt)
         sizes.Got(size);
         EXPECT_EQ(sizes.IsHeld(tile), holdsTile) << size.width();
         EXPECT_FALSE(sizes.IsHeld(wanted));
+    }
+}
+
+TEST_F(WindowTest, ABoxOfTheSystemWearsTheColoursOfItsFormAndReturnsWhatWasAnswered)
+{
+    form.SetBackColor(Rgb(30, 60, 30));
+    form.ButtonColour = Rgb(200, 180, 20);
+    Show({&surface});
+    const auto inBox = [this](auto ask, auto user) {
+        platform.WindowOf(form)->activateWindow();
+        Events();
+        form.FeedMouseDown({LeftButton, 0, 100, 600});
+        EXPECT_NE(form.Captured(), nullptr);
+        WhenModal([&] {
+            EXPECT_EQ(form.Captured(), nullptr) << "the box has the mouse";
+            QWidget& box = *QApplication::activeModalWidget();
+            EXPECT_EQ(box.palette().color(QPalette::Window), QColor(30, 60, 30));
+            EXPECT_EQ(box.palette().color(QPalette::Button), QColor(200, 180, 20));
+            EXPECT_EQ(box.parentWidget(), platform.WindowOf(form));
+            user(box);
+        });
+        return ask();
+    };
+    const auto answer = [&](auto user) {
+        return inBox([&] { return platform.PlainMessage("<b>a & b", PlainButtons::YesNo); }, user);
+    };
+    EXPECT_FALSE(answer([](QWidget& box) { QTest::keyClick(&box, Qt::Key_Return); }));
+    EXPECT_FALSE(answer([](QWidget& box) { QTest::keyClick(&box, Qt::Key_Escape); }));
+    EXPECT_TRUE(answer([this](QWidget&) {
+        EXPECT_EQ(MessageBox().text(), QStringLiteral("<b>a & b"));
+        EXPECT_EQ(MessageBox().textFormat(), Qt::PlainText);
+        QWidget* const yes = MessageBox().button(QMessageBox::Yes);
+        EXPECT_LT(yes->x(), MessageBox().button(QMessageBox::No)->x());
+        QTest::mouseClick(yes, Qt::LeftButton);
+    }));
+    for (const bool accepted : {true, false}) {
+        const auto type = [&](QWidget& box) {
+            auto& input = dynamic_cast<QInputDialog&>(box);
+            EXPECT_EQ(input.labelText(), QStringLiteral("Name"));
+            input.setTextValue(QStringLiteral("lagoon"));
+            input.done(accepted ? QDialog::Accepted : QDialog::Rejected);
+        };
+        EXPECT_EQ(inBox([this] { return platform.AskForText("Name"); }, type), accepted ? "lagoon" : "");
+    }
+    for (const bool busy : {true, true, false}) {
+        platform.SetBusyPointer(busy);
+        const QCursor* const shown = QGuiApplication::overrideCursor();
+        EXPECT_EQ(shown != nullptr && shown->shape() == Qt::WaitCursor, busy);
+    }
+}
+
+TEST_F(WindowTest, TheLatestDealIsTheFirstToBeLoadedAndASaveProposesItsName)
+{
+    const QTemporaryDir folder;
+    const QDateTime noon(QDate(2026, 3, 14), QTime(12, 0));
+    for (const int number : {1, 3, 2}) {
+        QFile file(folder.filePath(QStringLiteral("savedgame%1.gam").arg(number)));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        ASSERT_TRUE(
+            file.setFileTime(noon.addDays(number == 2 ? 5 : number), QFile::FileModificationTime));
+    }
+    for (const bool save : {false, true}) {
+        WhenModal([&] {
+            auto* const box = dynamic_cast<QFileDialog*>(QApplication::activeModalWidget());
+            const auto* const files = box->findChild<QTreeView*>(QStringLiteral("treeView"));
+            EXPECT_EQ(box->acceptMode(), save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+            EXPECT_TRUE(files->isColumnHidden(1) && files->isColumnHidden(2));
+            EXPECT_TRUE(QTest::qWaitFor([&] { // the list is sorted a while after it was read
+                QString shown;
+                for (int row = 0; row < files->model()->rowCount(files->rootIndex()); ++row) {
+                    shown += files->model()->index(row, 0, files->rootIndex()).data().toString()[9];
+                }
+                return shown == QStringLiteral("231");
+            }));
+            save ? box->findChild<QPushButton*>()->click() : box->reject();
+        });
+        const std::string chosen = platform.ChooseFile({.save = save,
+                                                        .title = "t",
+                                                        .typesName = "games",
+                                                        .types = "*.gam",
+                                                        .folder = ToBytes(folder.path()),
+                                                        .name = save ? "new.gam" : ""},
+                                                       nullptr);
+        EXPECT_EQ(chosen, save ? PathToBytes(folder.filePath(QStringLiteral("new.gam"))) : "");
     }
 }
 

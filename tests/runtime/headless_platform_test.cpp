@@ -21,7 +21,6 @@ public:
     }
     void Click(Control& control) { platform_.Click(control); }
     void MakeRefuse(Form& form) { platform_.refusesSize.insert(&form); }
-    int DrawingsOf(Control& /*control*/) const { return platform_.paints; }
 
 private:
     HeadlessPlatform platform_;
