@@ -49,20 +49,6 @@ struct OnAForm : testing::Test {
 using BoxButton = OnAForm;
 using FileChooser = OnAForm;
 
-TEST_F(BoxButton, CentresItsCaptionByTheHeightOfACapitalAndItsPictureAlmost)
-{
-    const Picture picture{16, {}};
-    button.SetPicture(picture);
-    button.SetCaption("Ok");
-    const auto& strokes = button.Drawing().Strokes();
-    const Whole width = RoundHalfEven(platform.TextSize(button.Font(), "Ok").width);
-    const Whole height = RoundHalfEven(platform.TextSize(button.Font(), "W").height);
-    EXPECT_EQ(std::get<Canvas::Text>(strokes.front()).upperLeft,
-              (Point{(360 - width) / 2.0, (360 - height) / 2.0}));
-    // 16 pixels are 423 hundredths of a millimetre, and count as 211.5 twips.
-    EXPECT_EQ(std::get<Canvas::Drawing>(strokes.back()).upperLeft, (Point{50.25, 50.25}));
-}
-
 TEST_F(BoxButton, IsPressedByAnyMouseButtonAndActsAtTheReleaseWhereverThatIs)
 {
     std::vector<int> releasedWith;

@@ -1,7 +1,6 @@
 #include "headless/headless_platform.h"
 #include "runtime/controls.h"
 #include "runtime/form.h"
-#include "runtime/timer.h"
 
 #include <gtest/gtest.h>
 
@@ -10,50 +9,11 @@ namespace tessarine
 namespace
 {
 
-/// Counts how often it is told of changes.
-class ToldPlatform : public HeadlessPlatform
-{
-public:
-    int told = 0;
-
-    void ChangesPending(Form& form) override
-    {
-        ++told;
-        HeadlessPlatform::ChangesPending(form);
-    }
-};
-
 struct Controls : testing::Test {
-    ToldPlatform platform;
+    HeadlessPlatform platform;
     Forms forms{platform};
     Form form{forms, "form", {3000, 2000}};
 };
-
-TEST_F(Controls, OnlyAChangeIsNotedAndEachControlOnce)
-{
-    Label label;
-    PictureBox surface;
-    form.Add(surface);
-    surface.Add(label);
-    form.Show();
-    platform.RunPendingEvents();
-    platform.paintedControls = platform.told = 0;
-
-    label.SetCaption("");
-    label.Move(0, 0);
-    label.SetFont(Font{});
-    label.BringToFront();
-    EXPECT_FALSE(platform.HasWork());
-    label.SetCaption("7");
-    label.SetForeColor(White);
-    surface.SetWidth(30);
-    EXPECT_EQ(platform.told, 1);
-    platform.RunPendingEvents();
-    EXPECT_EQ(platform.paintedControls, 2);
-    label.SetCaption("8"); // noted anew after the round
-    platform.RunPendingEvents();
-    EXPECT_EQ(platform.paintedControls, 3);
-}
 
 TEST_F(Controls, WhatStandsOnAControlThatIsNotEnabledTakesNoInput)
 {
@@ -65,7 +25,7 @@ TEST_F(Controls, WhatStandsOnAControlThatIsNotEnabledTakesNoInput)
     Control& anyControl = frame;
     for (const bool enabled : {false, true}) {
         anyControl.SetEnabled(enabled);
-        box.UserToggles();
+        box.UserActivates();
         EXPECT_EQ(box.Value(), enabled);
     }
 }
@@ -93,24 +53,41 @@ TEST_F(Controls, AListIsFilledWhenSomebodyAsksAndKeepsItsSelectionOnItsEntry)
     EXPECT_EQ(releases, 1);
     list.Select(9);
     EXPECT_EQ(list.Selected(), std::nullopt);
+    list.Clear();
+    EXPECT_EQ(list.Items().Count(), 0U);
 }
 
-TEST_F(Controls, ATimerTicksForAsLongAsItIsEnabled)
+TEST_F(Controls, AModalFormTakesTheMouseFromTheOthers)
 {
-    Timer timer(platform);
-    int ticks = 0;
-    timer.OnTick = [&] { ++ticks; };
-    const auto ticksAfter = [&](int milliseconds) {
-        platform.Advance(milliseconds);
-        return ticks;
-    };
-    timer.SetEnabled(true);
-    EXPECT_EQ(ticksAfter(1000), 0) << "an interval of 0: never";
-    timer.SetInterval(100);
-    EXPECT_EQ(ticksAfter(99), 0);
-    EXPECT_EQ(ticksAfter(201), 3);
-    timer.SetInterval(50); // begins anew
-    EXPECT_EQ(ticksAfter(49), 3);
+    Form other(forms, "other", {3000, 2000});
+    Label lower;
+    Label upper;
+    std::string record;
+    for (Label* card : {&lower, &upper}) {
+        form.Add(*card);
+        card->MouseDown = [&](const MouseEvent&) { record += "down "; };
+        card->MouseUp = [&](const MouseEvent&) { record += "up "; };
+        card->MouseLost = [&] { record += "lost "; };
+    }
+    lower.SetBounds(0, 0, 400, 400);
+    upper.SetBounds(200, 200, 400, 400);
+    form.Show();
+    const auto press = [&](Twips at, int button) { form.FeedMouseDown({button, 0, at, at}); };
+    const auto release = [&](Twips at, int button) { form.FeedMouseUp({button, 0, at, at}); };
+    lower.MouseDown = [&](const MouseEvent&) { other.ShowModal(&form); };
+    platform.OnNextModal([&](Form& dialog) {
+        press(300, MiddleButton);
+        release(300, MiddleButton);
+        dialog.Hide();
+    });
+    press(100, LeftButton); // the release never comes here
+    press(300, RightButton);
+    release(300, RightButton);
+    EXPECT_EQ(record, "lost down up ");
+    lower.MouseDown = nullptr;
+    press(100, RightButton);
+    static_cast<Control&>(upper).UserActivates(); // past the mouse
+    EXPECT_EQ(record, "lost down up lost down up ");
 }
 
 } // namespace

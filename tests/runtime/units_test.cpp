@@ -84,18 +84,6 @@ TEST(Letters, AreLoweredInTheEncodingThatTheTextHas)
     }
 }
 
-TEST(Files, GoWhereALinkLeadsAndSpareWhatIsProtected)
-{
-    HeadlessPlatform platform;
-    platform.files = {{"/run/true", "old"}, {"/run/mine", "old"}};
-    platform.links = {{"/run/link", "/run/true"}};
-    platform.writeProtected = {"/run/mine"};
-    EXPECT_EQ(ReplaceFile(platform, "link", "new"), FileFault::None);
-    EXPECT_EQ(ReplaceFile(platform, "mine", "new"), FileFault::Forbidden);
-    const std::map<std::string, std::string> left = {{"/run/true", "new"}, {"/run/mine", "old"}};
-    EXPECT_EQ(platform.files, left);
-}
-
 TEST(Files, LinesEndWithOneOrTwoCharacters)
 {
     using Lines = std::vector<std::string>;

@@ -12,24 +12,6 @@ namespace tessarine::test
 namespace
 {
 
-TEST(ConfigurationTest, ANewFileByteForByte)
-{
-    GameWorld world;
-    world.platform.files.erase("/app/tessarine.cfg");
-    world.platform.AnswerModal("Ok");
-    world.form.configuration.ReadcfgFile();
-    EXPECT_EQ(world.platform.files["/app/tessarine.cfg"], "03-14-2008 15:09:26\r\n"
-                                                          " 1             16777215      0 \r\n"
-                                                          " 1 \r\n"
-                                                          " 0 \r\n"
-                                                          " 8388608 \r\n"
-                                                          " 32768 \r\n"
-                                                          " 32896 \r\n"
-                                                          " 128 \r\n"
-                                                          "default.col\r\n"
-                                                          "arial\r\n");
-}
-
 TEST(ConfigurationTest, RoundTripKeepsEveryValue)
 {
     GameWorld world;
