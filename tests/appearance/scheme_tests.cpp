@@ -1,9 +1,7 @@
 // Colour schemes as they are made, read and changed on the disk, and the dialog that does it.
-#include "appearance/apply_scheme.h"
-#include "appearance/options_dialog.h"
 #include "appearance/scheme_file.h"
-#include "headless/headless_platform.h"
 #include "runtime/files.h"
+#include "support/game_world.h"
 
 #include <gtest/gtest.h>
 
@@ -28,21 +26,14 @@ constexpr Colour Grey(int level)
     return Rgb(level, level, level);
 }
 
-/// A program that consists of the options dialog and what it stands on.
-struct AppearanceWorld {
-    AppearanceWorld()
+/// The options of a program, over three grey schemes.
+struct Schemes : testing::Test {
+    Schemes()
     {
-        module.AppDir = "/program/";
-        module.AllColFile = "/program/all.col";
+        AllCol() = GreyEntry("default.col", 100) + GreyEntry("grey.col") + GreyEntry("slate.col", 60);
         module.SchemeFile = "grey.col";
-        FillBuiltInScheme(module);
-        platform.files[module.AllColFile] =
-            GreyEntry("default.col", 100) + GreyEntry("grey.col") + GreyEntry("slate.col", 60);
+        store.ReadScheme(module.SchemeFile);
         dialog.FillSchemeList();
-        command2.MouseUp = [this](const MouseEvent&) {
-            store.ReadScheme(module.SchemeFile);
-            ApplyScheme(module, {{&table}, {&tableButton}, messageBox, dialog});
-        };
     }
 
     std::string& AllCol() { return platform.files[module.AllColFile]; }
@@ -55,23 +46,16 @@ struct AppearanceWorld {
     {
         platform.plainAnswers = {agrees};
         platform.plainMessages.emplace_back();
-        button.UserActivates();
+        static_cast<Control&>(button).UserActivates();
         return platform.plainMessages.back();
     }
 
-    HeadlessPlatform platform;
-    Forms forms{platform};
-    Module1 module;
-    MsgForm messageBox{forms};
-    SchemeStore store{module, messageBox};
-    Sound sound{platform, module.AppDir, module.SoundOn};
-    Label table;
-    BoxControl tableButton;
-    PushButton command2;
-    Form6 dialog{forms, module, store, messageBox, sound, command2};
-};
-
-struct Schemes : testing::Test, AppearanceWorld {
+    test::GameWorld world;
+    HeadlessPlatform& platform = world.platform;
+    Module1& module = world.form.shared;
+    SchemeStore& store = world.form.schemeStore;
+    MsgForm& messageBox = world.form.msgForm;
+    Form6& dialog = world.form.form6;
 };
 
 TEST_F(Schemes, AreShiftedFromTheBackgroundAndHeldWithinShades)
@@ -150,12 +134,13 @@ TEST_F(Schemes, AreReplacedInTheirPlaceAndDeleted)
     PickScheme("grey");
     MakeScheme(module, Rgb(1, 2, 3), 100);
     const std::string made = EntryText("grey.col", module);
-    platform.meanwhile.emplace_back([this] { dialog.delsch.UserActivates(); }); // behind the question
+    platform.meanwhile.emplace_back(
+        [this] { static_cast<Control&>(dialog.delsch).UserActivates(); }); // behind the question
     EXPECT_EQ(Press(dialog.repsch, false), "Replace color scheme: grey");
     EXPECT_EQ(platform.plainMessages.size(), 4U);
     EXPECT_EQ(Press(dialog.repsch), "Color Scheme: grey.col replaced");
     EXPECT_EQ(AllCol(), GreyEntry("default.col", 100) + made + GreyEntry("slate.col", 60));
-    EXPECT_EQ(platform.files["/program/newall.cox"], AllCol());
+    EXPECT_EQ(platform.files["/app/newall.cox"], AllCol());
 
     module.SchemeFile = "GREY.col";
     EXPECT_EQ(Press(dialog.delsch), "Cannot delete currently active Color Scheme");
@@ -178,38 +163,10 @@ TEST_F(Schemes, AreListedByTheirNamesAndAShortEntryIsRefused)
     EXPECT_EQ(AllCol(), text);
 }
 
-TEST(FailingDisk, LeavesTheOldFileOrTheNewOne)
-{
-    for (BoxControl Form6::*const button : {&Form6::addsch, &Form6::repsch, &Form6::delsch}) {
-        const std::string failure = button == &Form6::addsch
-                                        ? "Error in adding Color Scheme:\r\nnew.col"
-                                        : "Error in updating Color Scheme:\r\nslate.col";
-        std::string done;
-        for (const bool fromThere : {false, true}) {
-            bool reached = true;
-            for (int failing = -1; reached; ++failing) { // nothing fails at first
-                AppearanceWorld world;
-                const std::string old = world.AllCol();
-                world.platform.ResetFileOperations(failing, fromThere);
-                world.dialog.List1.Select(2); // slate, with no preview that would read the file
-                MakeScheme(world.module, Rgb(1, 2, 3), 100);
-                world.platform.typedAnswers = {"new"};
-                const bool failed = world.Press(world.dialog.*button) == failure;
-                reached = world.platform.fileOperations > failing;
-                EXPECT_EQ(failed, reached && failing >= 0) << failing;
-                done = failed ? done : world.AllCol();
-                EXPECT_TRUE(world.AllCol() == old || world.AllCol() == done) << failing;
-                EXPECT_FALSE(world.platform.files.contains("/program/all.col.part")) << failing;
-            }
-        }
-    }
-}
-
 struct OptionsDialog : Schemes {
     OptionsDialog()
     {
         module.SuitColor = {Black, Rgb(0, 0, 128), Rgb(0, 128, 0), Rgb(128, 128, 0), Rgb(128, 0, 0)};
-        store.ReadScheme(module.SchemeFile);
         dialog.Show();
     }
 };
@@ -233,15 +190,16 @@ TEST_F(OptionsDialog, OpensOnWhatIsInForce)
 TEST_F(OptionsDialog, APreviewPaintsTheDialogAlone)
 {
     dialog.ColPik1.hsrRed.UserSets(90);
+    EXPECT_EQ(module.Background(), Rgb(90, 60, 60)) << "as it would be stored";
     EXPECT_EQ(dialog.BackColor(), Grey(60)) << "a colour alone shows at View";
     Press(dialog.showsch);
     EXPECT_EQ(dialog.BackColor(), Rgb(90, 60, 60));
     dialog.ContrastV.UserSets(200);
     EXPECT_EQ(dialog.showsch.BackColor(), Rgb(26, 1, 1));
-    EXPECT_EQ(table.BackColor(), ButtonFace);
+    EXPECT_EQ(world.table.Picture2.BackColor(), Rgb(120, 170, 120));
     Press(dialog.command3); // only a stored scheme reaches the table
-    EXPECT_EQ(table.BackColor(), Grey(60));
-    EXPECT_EQ(tableButton.BackColor(), Grey(80));
+    EXPECT_EQ(world.table.Picture2.BackColor(), Grey(60));
+    EXPECT_EQ(world.form.cmdundo.BackColor(), Grey(80));
     EXPECT_EQ(messageBox.ButtonColour, Grey(80));
 }
 
@@ -284,7 +242,7 @@ TEST_F(OptionsDialog, CardColoursAndSoundAreTakenOverAtOnce)
         dialog.Check1.UserToggles();
         EXPECT_EQ(module.SoundOn, expected);
     }
-    EXPECT_EQ(platform.sounds, std::vector<std::string>{"/program/_soundonoff.wav"});
+    EXPECT_EQ(platform.sounds, std::vector<std::string>{"/app/_soundonoff.wav"});
 }
 
 TEST_F(OptionsDialog, AFontIsASampleUntilApplyAndResetAsksFirst)

@@ -110,6 +110,7 @@ bool TryOut(const std::function<void(GameWorld&)>& command, int failing, bool fr
         one->platform.chosenFiles = {"/app/old.gam"};
         files[0] = one->platform.files;
         Agree(one->platform, told);
+        one->form.form6.Show();
     }
     command(lucky);
     files[1] = lucky.platform.files;
@@ -126,6 +127,8 @@ bool TryOut(const std::function<void(GameWorld&)>& command, int failing, bool fr
     for (const auto& [path, bytes] : files[0]) {
         EXPECT_TRUE(files[2].contains(path)) << path << " is lost by failure " << failing;
     }
+    EXPECT_TRUE(files[2]["/app/all.col"] == files[1]["/app/all.col"] ||
+                world.platform.plainMessages.back().starts_with("Error in "));
     EXPECT_EQ(world.Fault(), "");
     EXPECT_FALSE(world.platform.busy);
     if (!world.platform.ended) { // the disk works again: what is told now, and was told before, is true
@@ -158,6 +161,19 @@ TEST(DiskTest, WhateverFailsNothingIsLostAndWhatIsToldIsTrue)
             w.Press(w.form.Score1.Command1);
         },
         [](GameWorld& w) { w.form.gameCommands.GameWon(); },
+        [](GameWorld& w) {
+            w.platform.typedAnswers = {"new"};
+            w.Press(w.form.form6.addsch);
+        },
+        [](GameWorld& w) {
+            w.form.form6.List1.Select(0);
+            w.Press(w.form.form6.repsch);
+        },
+        [](GameWorld& w) {
+            w.form.shared.SchemeFile = "another.col";
+            w.form.form6.List1.Select(0);
+            w.Press(w.form.form6.delsch);
+        },
     };
     for (const auto& command : commands) {
         for (const FileFault why :
