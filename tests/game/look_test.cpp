@@ -148,9 +148,9 @@ TEST(LookTest, EveryCommandHasItsIconAndItsEffect)
         {&Form1::cmdundo, " _undo.wav"}};
     std::set<const Picture*> icons;
     for (const auto& [button, effect] : commands) {
-        GameWorld world({.columns = {{S9}}, .stock = {C8, C9}});
-        world.RightClick(C9);
-        world.ForgetSounds();
+        GameWorld world({.columns = {{9}}, .stock = {38, 39}});
+        world.RightClick(39);
+        world.TakeSounds();
         std::string seen;
         world.platform.OnNextModal([&](Form& form) {
             const auto* const box = dynamic_cast<MsgForm*>(&form);

@@ -80,7 +80,7 @@ TEST(ProgramTest, ExitStoresTheSizeAndAClosedWindowWritesNothing)
     Texts told;
     Agree(world.platform, told);
     world.Press(world.form.cmdhelp);
-    world.ForgetSounds();
+    world.TakeSounds();
     world.Press(world.form.cmdexit);
     EXPECT_TRUE(world.platform.ended);
     EXPECT_EQ(world.TakeSounds(), (Texts{"_menu.wav", "_exit.wav"}));

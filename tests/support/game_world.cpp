@@ -125,26 +125,15 @@ Point GameWorld::Place(int item) const
     return {table.cardy[item].Left(), table.cardy[item].Top()};
 }
 
-void GameWorld::Grab(int item, Twips right, Twips down)
+void GameWorld::DragOnto(int item, int target)
 {
     // A grip near the corner is on the card also where the next one of a run covers the rest.
     const Point from = Corner(item);
+    const Point to = Corner(target);
     platform.Press(form, from.x + Grip, from.y + Grip);
-    platform.MoveMouse(form, from.x + right + Grip, from.y + down + Grip);
-}
-
-void GameWorld::DragToPoint(int item, Twips left, Twips top)
-{
-    const Point from = Corner(item);
-    const Point to{left + table.Picture2.Left() + Grip, top + table.Picture2.Top() + Grip};
-    Grab(item, (to.x - Grip - from.x) / 2, (to.y - Grip - from.y) / 2);
-    platform.MoveMouse(form, to.x, to.y);
-    platform.Release(form, to.x, to.y);
-}
-
-void GameWorld::DragOnto(int item, int target)
-{
-    DragToPoint(item, Place(target).x, Place(target).y);
+    platform.MoveMouse(form, (from.x + to.x) / 2 + Grip, (from.y + to.y) / 2 + Grip);
+    platform.MoveMouse(form, to.x + Grip, to.y + Grip);
+    platform.Release(form, to.x + Grip, to.y + Grip);
 }
 
 void GameWorld::RightClick(int item)

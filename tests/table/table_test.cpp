@@ -105,17 +105,18 @@ TEST(ResizingTest, TheWindowSnapsToTheTable)
 
 TEST(MovesTest, ASlideTakesTenStepsOfWholeTwipsInFrontOfAll)
 {
-    GameWorld world({.columns = {{H6}, {}, {S7, H5}}});
+    constexpr int card = 15; // goes to the next of its suit
+    GameWorld world({.columns = {{16}, {}, {7, card}}});
     std::vector<Point> seen;
     Timer watch(world.platform);
     watch.OnTick = [&] {
-        EXPECT_EQ(world.table.Picture2.Children().back(), &world.table.cardy[H5]);
-        seen.push_back(world.Place(H5));
+        EXPECT_EQ(world.table.Picture2.Children().back(), &world.table.cardy[card]);
+        seen.push_back(world.Place(card));
     };
     watch.SetInterval(3);
     watch.SetEnabled(true);
     const auto start = world.platform.milliseconds;
-    world.RightClick(H5);
+    world.RightClick(card);
     watch.SetEnabled(false);
     EXPECT_EQ(world.platform.milliseconds - start, 30);
     std::vector<Point> expected; // an exact half goes to the even neighbour
@@ -123,10 +124,10 @@ TEST(MovesTest, ASlideTakesTenStepsOfWholeTwipsInFrontOfAll)
         expected.push_back({1000 - 96 * (static_cast<Twips>(expected.size()) + 1), y});
     }
     EXPECT_EQ(seen, expected);
-    EXPECT_EQ(world.Place(H5), (Point{40, 1075}));
+    EXPECT_EQ(world.Place(card), (Point{40, 1075}));
     world.form.shared.MoveSteps = 0;
-    world.DragOnto(H5, FirstColumnBase + 1);
-    world.RightClick(H5);
+    world.DragOnto(card, FirstColumnBase + 1);
+    world.RightClick(card);
     EXPECT_EQ(world.platform.milliseconds - start, 30);
 }
 
