@@ -21,7 +21,7 @@ public:
     std::int64_t Milliseconds() { return clock_.elapsed(); }
     void LetTimePass(int milliseconds) { QTest::qWait(milliseconds); }
     void WhenModal(std::function<void()> user) { tessarine::WhenModal(std::move(user)); }
-    void Click(Control& control) { UsersHand(platform_).Click(control); }
+    void Click(Control& control) { Mouse(platform_, QTest::MouseClick, control, MiddleOf(control)); }
     void MakeRefuse(Form& form)
     {
         platform_.WindowOf(form)->showMaximized();

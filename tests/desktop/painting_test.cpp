@@ -200,27 +200,27 @@ TEST_F(ScreenTest, AClickTakesTheColourThatItsPixelShows)
     picker.SetSchemeColor(base);
     Events();
     FormWindow& window = *platform.WindowOf(form);
-    const QImage shown = window.grab().toImage();
-    const double ratio = shown.devicePixelRatio();
-    QPoint wrong;
+    const QImage all = window.grab().toImage();
+    const double ratio = all.devicePixelRatio();
+    const QPoint corner(PixelAt(170, ratio), PixelAt(300, ratio));
+    const QImage shades = all.copy(QRect(corner, QPoint(PixelAt(1185, ratio), PixelAt(1647, ratio))));
+    EXPECT_EQ(Wrong(shades.copy(0, 0, shades.width() - 1, shades.height() - 1),
+                    [&](QPoint at, QRgb pixel) {
+                        const QPointF place = QPointF(corner + at) / ratio;
+                        for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+                            QMouseEvent event(type, place, place, Qt::LeftButton, Qt::LeftButton, {});
+                            QCoreApplication::sendEvent(window.windowHandle(), &event);
+                        }
+                        const Colour taken = picker.SchemeColor();
+                        picker.SetSchemeColor(base);
+                        return pixel == Pixel(taken);
+                    }),
+              QRect())
+        << "at " << ratio;
     std::set<QRgb> inBar;
-    for (int y = PixelAt(300, ratio); y < PixelAt(277 + 1370, ratio); ++y) {
-        for (int x = PixelAt(170, ratio); x < PixelAt(155 + 1030, ratio); ++x) {
-            const QPointF at = QPointF(x, y) / ratio;
-            for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
-                QMouseEvent event(type, at, at, Qt::LeftButton, Qt::LeftButton, {});
-                QCoreApplication::sendEvent(window.windowHandle(), &event);
-            }
-            if (Pixel(picker.SchemeColor()) != shown.pixel(x, y)) {
-                wrong = {x, y};
-            }
-            if (y == PixelAt(277 + 1050, ratio)) {
-                inBar.insert(shown.pixel(x, y));
-            }
-            picker.SetSchemeColor(base);
-        }
+    for (int x = 0; x < shades.width(); ++x) {
+        inBar.insert(shades.pixel(x, PixelAt(1327, ratio) - corner.y()));
     }
-    EXPECT_TRUE(wrong.isNull()) << wrong.x() << ", " << wrong.y() << " at " << ratio;
     EXPECT_TRUE(inBar.contains(Pixel(Black)) && inBar.contains(Pixel(base))) << "both ends can be seen";
 }
 
@@ -255,10 +255,9 @@ TEST_F(PaintingTest, EveryPixelShowsTheFrontMostOfWhatLiesThere)
                         continue;
                     }
                     if (*place == &image) {
-                        QRect square(0, 0, rect.height(), rect.height());
-                        square.moveLeft(rect.left() + (rect.width() - rect.height()) / 2);
-                        square.moveTop(rect.top());
-                        if (square.contains(at)) {
+                        const int beside = (rect.width() - rect.height()) / 2;
+                        if (at.x() >= rect.left() + beside &&
+                            at.x() < rect.left() + beside + rect.height()) {
                             return pixel == Pixel(Face);
                         }
                         continue;
@@ -280,17 +279,19 @@ TEST_F(PaintingTest, EveryPixelShowsTheFrontMostOfWhatLiesThere)
             EXPECT_EQ(Wrong(Shown(surface, scale), mayBe), QRect()) << round << " at " << scale;
         }
     }
-    surface.Add(label);
+    Label& base = labels.back();
+    base.SetBackColor(Face);
+    base.SetBorder(true);
+    base.SetSunken(true);
+    base.SetVisible(true);
+    base.BringToFront();
     surface.SetBackColor(Ground);
-    label.SetCaption("");
-    label.SetBackColor(Face);
-    label.SetBorder(true);
-    label.SetSunken(true);
-    label.SetBounds(0, 0, 405, 375);
     Events();
-    const QImage shown = Shown(surface, 1);
-    EXPECT_LT(std::max(qGray(shown.pixel(13, 0)), qGray(shown.pixel(0, 12))), qGray(Pixel(Face)));
-    EXPECT_GT(std::min(qGray(shown.pixel(13, 24)), qGray(shown.pixel(26, 12))), qGray(Pixel(Face)));
+    const QImage shown = Shown(surface, 1).copy(PixelsOf(base, 1));
+    EXPECT_LT(std::max(qGray(shown.pixel(9, 0)), qGray(shown.pixel(0, 9))), qGray(Pixel(Face)));
+    const QPoint end = shown.rect().bottomRight();
+    EXPECT_GT(std::min(qGray(shown.pixel(9, end.y())), qGray(shown.pixel(end.x(), 9))),
+              qGray(Pixel(Face)));
 }
 
 TEST_F(PaintingTest, TextHasTheSizeAndLookOfItsFontAndStaysInTheMiddleOfItsLabel)
@@ -354,17 +355,28 @@ TEST_F(PaintingTest, TextHasTheSizeAndLookOfItsFontAndStaysInTheMiddleOfItsLabel
     }
 }
 
-TEST_F(PaintingTest, ADrawingOfTheProgramHasItsSizeAtEveryScale)
+TEST_F(PaintingTest, ADrawingIsWhereItsControlDrewItAtEveryScale)
 {
+    using enum Shape::Kind;
     struct Drawing : UserControl {
         void Draw(Canvas& canvas) const override
         {
             canvas.Clear(Ground);
             canvas.DrawLine({100, 100}, {1000, 100}, White);
-            canvas.Print({100, 300}, "H\nH", {.name = "Arial", .size = 20}, Black);
-            canvas.Paint({608, 403}, Square);
+            canvas.Print({100, 300}, "H\nH", {.name = "Arial", .size = 20}, Rgb(0, 0, 255));
+            canvas.Paint({608, 403}, picture);
         }
+        Picture picture;
     } drawing;
+    drawing.picture = {32,
+                       {{Polygon, {{2, 2}, {14, 2}, {8, 14}}, Face, Black, 3, 0, 0},
+                        {Polyline, {{20, 4}, {28, 4}, {28, 12}}, {}, Black, 3, 0, 0},
+                        {Ellipse, {{2, 20}, {14, 28}}, Face, {}, 1, 0, 0},
+                        {Arc, {{18, 18}, {30, 30}}, {}, Black, 3, 0, 90}}};
+    const std::map<Colour, std::vector<QPointF>> places = {
+        {Face, {{8, 6}, {8, 21.5}, {3.5, 24}}},
+        {Black, {{5, 8}, {11, 8}, {19.3, 4}, {28, 12.6}, {28.2, 19.8}}},
+        {Ground, {{2, 8}, {17.5, 4}, {24, 8}, {2.7, 20.7}, {8, 18.5}, {28.2, 28.2}, {19.8, 19.8}}}};
     drawing.SetBounds(155, 277, 1500, 1500);
     Show({&drawing});
     for (const double scale : Scales) {
@@ -372,95 +384,34 @@ TEST_F(PaintingTest, ADrawingOfTheProgramHasItsSizeAtEveryScale)
         const auto placeOf = [&](Colour colour) {
             return Wrong(shown, [=](QPoint, QRgb pixel) { return pixel != Pixel(colour); });
         };
+        const QPoint past(PixelAt(1005, scale), PixelAt(105, scale));
         EXPECT_EQ(placeOf(White),
-                  QRect(QPoint(PixelAt(90, scale), PixelAt(90, scale)),
-                        QPoint(PixelAt(1005, scale), PixelAt(105, scale)) - QPoint(1, 1)));
-        const QRect square = placeOf(Face);
-        EXPECT_EQ(square.topLeft(), QPoint(PixelAt(608, scale), PixelAt(403, scale)));
-        EXPECT_EQ(square.width(), PixelAt(120, scale));
-        EXPECT_GT(placeOf(Black).height(), 1.8 * 20 * scale) << "two lines of text";
-    }
-}
-
-TEST_F(PaintingTest, TheShapesOfAPictureAreWhereItsGridSays)
-{
-    using enum Shape::Kind;
-    const QColor line = Qt::black;
-    const QColor area = QColor::fromRgb(Pixel(Face));
-    const QColor none = Qt::transparent;
-    const std::vector<std::pair<Shape, std::vector<std::pair<QPointF, QColor>>>> table = {
-        {{Polygon, {{2, 2}, {14, 2}, {8, 14}}, Face, Black, 2, 0, 0},
-         {{{8, 6}, area}, {{5, 8}, line}, {{11, 8}, line}, {{3, 8}, none}}},
-        {{Polyline, {{4, 4}, {12, 4}, {12, 12}}, {}, Black, 2, 0, 0},
-         {{{3.3, 4}, line}, {{2.5, 4}, none}, {{12, 12.7}, line}, {{8, 8}, none}}},
-        {{Ellipse, {{2, 4}, {14, 12}}, Face, {}, 1, 0, 0},
-         {{{8, 5}, area}, {{3, 8}, area}, {{2.7, 4.7}, none}, {{8, 3}, none}}},
-        {{Arc, {{2, 2}, {14, 14}}, {}, Black, 1, 0, 90},
-         {{{12.3, 3.7}, line}, {{12.2, 12.2}, none}, {{3.8, 3.8}, none}, {{8, 8}, none}}}};
-    for (const auto& [shape, places] : table) {
-        for (const int pixels : {32, 128}) {
-            const QImage shown = PictureAsPixmap({16, {shape}}, pixels).toImage();
-            for (const auto& [at, colour] : places) {
-                EXPECT_EQ(shown.pixelColor((at * pixels / 16 - QPointF(0.5, 0.5)).toPoint()), colour)
-                    << static_cast<int>(shape.kind) << " at " << at.x() << ", " << at.y();
+                  QRect(QPoint(PixelAt(90, scale), PixelAt(90, scale)), past - QPoint(1, 1)));
+        EXPECT_GT(placeOf(Rgb(0, 0, 255)).height(), 1.8 * 20 * scale) << "two lines of text";
+        const QPointF corner(PixelAt(608, scale) - 0.5, PixelAt(403, scale) - 0.5);
+        for (const auto& [colour, points] : places) {
+            for (const QPointF& at : points) {
+                EXPECT_EQ(shown.pixel((corner + at * scale).toPoint()), Pixel(colour))
+                    << at.x() << ", " << at.y() << " at " << scale;
             }
         }
     }
 }
 
-/// How wide each line is that the way from a place to the far end crosses.
-std::vector<int> LinesOnWay(const QImage& image, QPoint from, QPoint step, QRgb ground)
+/// How wide the lines are along the right side of an image, from its edge inwards.
+std::vector<int> LinesBeside(const QImage& image, QRgb ground, double scale)
 {
     constexpr double visible = 3;
     std::vector<int> lines;
-    QRgb before = ground;
-    for (QPoint at = from; image.rect().contains(at); at += step) {
-        const QRgb pixel = image.pixel(at);
-        if (pixel != ground) {
-            lines.resize(lines.size() + (before == ground ? 1 : 0));
+    for (int in = 0; in < PixelAt(4 * 15, scale); ++in) {
+        const auto at = [&](int x) { return image.pixel(image.width() - 1 - x, image.height() / 2); };
+        if (at(in) != ground) {
+            lines.resize(lines.size() + (in == 0 || at(in - 1) == ground ? 1 : 0));
             ++lines.back();
-            EXPECT_GE(ContrastOf(pixel, ground), visible) << "on " << std::hex << ground;
+            EXPECT_GE(ContrastOf(at(in), ground), visible) << "on " << std::hex << ground;
         }
-        before = pixel;
     }
     return lines;
-}
-
-TEST_F(PaintingTest, FramesAndMarksAreSeenOnEveryGroundAndEvenAtEveryScale)
-{
-    list.Clear();
-    text.SetText("");
-    option.SetCaption("");
-    frame.SetCaption(std::string(15, ' ')); // its line leaves room for it
-    const std::map<Control*, std::pair<std::size_t, std::size_t>> lines = {
-        {&frame, {1, 2}}, {&list, {4, 4}}, {&text, {2, 2}}, {&option, {2, 2}}}; // down, and across
-    for (const auto& [control, counts] : lines) {
-        form.Add(*control);
-        control->SetBounds(155, 200 + (control == &frame ? 0.0 : 1055), 995, 845);
-    }
-    Show({});
-    for (const Colour ground : Grounds) {
-        for (const auto& [control, counts] : lines) {
-            control->SetBackColor(ground);
-            control->BringToFront();
-            Events();
-            if (control->TakesFocus()) {
-                Native(*control).setFocus();
-            }
-            for (const double scale : Scales) {
-                const QImage shown = Shown(*control, scale);
-                const int pastOption = control == &option ? PixelAt(15 * 15, scale) : 0;
-                const auto [down, across] = counts;
-                const int wide = NearestPixel(scale);
-                EXPECT_EQ(LinesOnWay(shown, {shown.width() / 2, 0}, {0, 1}, Pixel(ground)),
-                          std::vector<int>(down, wide))
-                    << scale;
-                EXPECT_EQ(LinesOnWay(shown, {pastOption, shown.height() / 2}, {1, 0}, Pixel(ground)),
-                          std::vector<int>(across, wide))
-                    << scale;
-            }
-        }
-    }
 }
 
 /// The contrast of the colour that stands out most to the one that there is most of, beside a mark that
@@ -468,11 +419,8 @@ TEST_F(PaintingTest, FramesAndMarksAreSeenOnEveryGroundAndEvenAtEveryScale)
 double ContrastOfText(const QImage& image)
 {
     std::map<QRgb, int> counts;
-    for (int y = 5; y < image.height() - 5; ++y) {
-        for (int x = 24; x < image.width() - 5; ++x) {
-            ++counts[image.pixel(x, y)];
-        }
-    }
+    Wrong(image.copy(24, 5, image.width() - 29, image.height() - 10),
+          [&](QPoint, QRgb pixel) { return ++counts[pixel] > 0; });
     const QRgb ground = std::ranges::max_element(counts, {}, &std::pair<const QRgb, int>::second)->first;
     double best = 1;
     for (const auto& [pixel, count] : counts) {
@@ -481,36 +429,56 @@ double ContrastOfText(const QImage& image)
     return best;
 }
 
-TEST_F(PaintingTest, TextOfNoFixedColourCanBeReadOnEveryGroundAndEveryStateIsSeen)
+TEST_F(PaintingTest, TextFramesMarksAndStatesAreSeenOnEveryGround)
 {
     const std::vector<Control*> controls = {&box,  &button, &option,  &check,
                                             &text, &list,   &surface, &frame};
-    label.SetBounds(0, 0, 1800, 600);
-    surface.Add(label);
     Label onFrame;
-    onFrame.SetBounds(0, 0, 1800, 600);
-    onFrame.SetCaption("HHHHHH");
+    surface.Add(label);
     frame.Add(onFrame);
     Show(controls);
-    for (std::size_t i = 0; i < controls.size(); ++i) {
-        controls[i]->SetBounds(150, 600 * static_cast<Twips>(i), 1800, 600);
-        controls[i]->SetFont({.name = "Arial", .size = 16, .bold = true});
+    for (Control* each : std::initializer_list<Control*>{&label, &onFrame}) {
+        each->SetBounds(300, 240, 1400, 340);
     }
+    for (std::size_t i = 0; i < controls.size(); ++i) {
+        controls[i]->SetBounds(155, 500 * static_cast<Twips>(i), 1795, 645);
+        controls[i]->SetFont({.name = "Arial", .size = 14, .bold = true});
+    }
+    list.SetHeight(405); // for one row
+    onFrame.SetCaption("HHHHHH");
+    frame.SetCaption(std::string(99, ' ')); // its line leaves room for it
     for (const Colour ground : Grounds) {
         for (const bool isSet : {false, true}) {
+            list.Select(isSet ? std::optional<std::size_t>(0) : std::nullopt);
             for (Control* control : controls) {
                 control->SetBackColor(ground);
-            }
-            for (Label* each : {&label, &onFrame}) {
-                each->SetFont(box.Font());
-                each->SetOpaque(!isSet); // what it stands on is its ground then
-                each->SetBackColor(isSet ? White : ground);
-            }
-            list.Select(isSet ? std::optional<std::size_t>(0) : std::nullopt);
-            Events();
-            for (const Control* control : controls) {
-                EXPECT_GE(ContrastOfText(Shown(*control, 1)), ReadableContrast)
-                    << static_cast<int>(control->Kind()) << isSet << " on " << ground;
+                control->BringToFront();
+                if (control->TakesFocus()) {
+                    Native(*control).setFocus(Qt::MouseFocusReason);
+                }
+                for (Label* each : {&label, &onFrame}) {
+                    each->SetOpaque(!isSet); // what it stands on is its ground then
+                    each->SetBackColor(isSet ? White : ground);
+                }
+                Events();
+                SCOPED_TRACE(testing::Message() << int(control->Kind()) << isSet << " on " << ground);
+                EXPECT_GE(ContrastOfText(Shown(*control, 1)), ReadableContrast);
+                const bool hasFrame = control == &frame || control == &text || control == &list;
+                const bool hasMark = control == &option || control == &check || control == &list;
+                for (const int turn : {0, 1, 2, 3}) {
+                    if (!hasFrame && (!hasMark || turn == 2)) {
+                        continue; // nothing is there, or the mark of an option
+                    }
+                    const bool isOpen = turn == 1 && control == &frame;
+                    const std::size_t count = (hasFrame && !isOpen ? 1 : 0) + (hasMark ? 1 : 0);
+                    for (const double scale : Scales) {
+                        EXPECT_EQ(LinesBeside(
+                                      Shown(*control, scale).transformed(QTransform().rotate(90 * turn)),
+                                      Pixel(ground), scale),
+                                  std::vector<int>(count, NearestPixel(scale)))
+                            << turn << " at " << scale;
+                    }
+                }
             }
         }
     }
@@ -577,14 +545,12 @@ TEST_F(PaintingTest, OnlyWhatChangedIsPaintedAndOnlyOnce)
     } onSurface, onForm;
     Label other;
     label.SetBounds(40, 100, 405, 375);
-    other.SetBounds(1000, 1000, 405, 375);
     surface.Add(label);
     surface.Add(other);
     Show({&surface});
     QTest::qWait(50);
     Native(surface).installEventFilter(&onSurface);
     platform.WindowOf(form)->installEventFilter(&onForm);
-
     label.BringToFront();
     label.Move(label.Left() + 45, label.Top() + 30);
     for (const char* const caption : {"7", "7"}) { // the second time there is no change

@@ -10,75 +10,74 @@ namespace
 
 using namespace std::chrono_literals;
 
-/// A sound server, which a player finds only in the run that it was opened in.
-class Server
-{
-public:
-    WavePlayerMaker Maker()
-    {
-        return [this] {
-            ++opened;
-            std::this_thread::sleep_for(50ms);
-            return run > 0 ? std::make_unique<Player>(*this) : nullptr;
-        };
-    }
-    void Note(const std::string& what)
-    {
-        const std::lock_guard lock(mutex_);
-        log_ += what;
-        std::fputs(what.c_str(), stderr);
-    }
-    std::string Heard()
-    {
-        const std::lock_guard lock(mutex_);
-        return log_;
-    }
-
-    std::atomic<int> run = 1; ///< 0: it is down
-    std::atomic<int> opened = 0;
-    std::chrono::milliseconds length = 100ms; ///< of every sound
-
-private:
+/// A sound server, which a player finds only in the run that it was opened in. Sounds last as long as
+/// their names say, in milliseconds.
+struct Server {
     struct Player : WavePlayer {
         explicit Player(Server& itsServer) : server(itsServer), run(server.run) {}
         bool Begin(const std::string& path, std::function<void()> ended) override
         {
-            if (run != server.run) {
-                return false;
+            if (run == server.run) {
+                server.Note("begins " + path + ' ');
+                std::thread([this, path, ended = std::move(ended)] {
+                    std::this_thread::sleep_for(std::chrono::milliseconds(std::stoll(path)));
+                    server.Note("ends " + path + ' ');
+                    ended();
+                }).detach();
             }
-            server.Note("begins " + path + ' ');
-            std::thread([this, path, ended = std::move(ended)] {
-                std::this_thread::sleep_for(server.length);
-                server.Note("ends " + path + ' ');
-                ended();
-            }).detach();
-            return true;
+            return run == server.run;
         }
         Server& server;
         int run;
     };
 
-    std::mutex mutex_;
-    std::string log_;
+    WavePlayerMaker Maker()
+    {
+        return [this] {
+            ++opened;
+            std::this_thread::sleep_for(opening);
+            return run > 0 ? std::make_unique<Player>(*this) : nullptr;
+        };
+    }
+    void Note(const std::string& what)
+    {
+        const std::lock_guard lock(mutex);
+        log += what;
+        std::fputs(what.c_str(), stderr);
+    }
+    std::string Heard()
+    {
+        const std::lock_guard lock(mutex);
+        return log;
+    }
+
+    std::atomic<int> run = 1; ///< 0: it is down
+    std::atomic<int> opened = 0;
+    std::chrono::milliseconds opening = 50ms;
+    std::mutex mutex;
+    std::string log;
 };
 
-TEST(SoundsTest, EverySoundBeginsBesideTheOthersAndNobodyWaits)
+TEST(SoundsTest, EverySoundBeginsBesideTheOthersUnlessItComesLateAndNobodyWaits)
 {
-    Server server;
-    Sounds sounds(server.Maker());
-    for (const char* const path : {"menu", "shuffle", "menu"}) {
-        sounds.Play(path);
+    for (const auto opening : {50ms, 1200ms}) {
+        Server server;
+        server.opening = opening;
+        Sounds sounds(server.Maker());
+        for (const char* const path : {"101", "102", "101"}) {
+            sounds.Play(path);
+        }
+        EXPECT_EQ(server.Heard(), "") << "the device is still being opened";
+        sounds.Finish(5s);
+        const std::string heard = server.Heard().substr(0, 36);
+        EXPECT_EQ(heard, opening == 50ms ? "begins 101 begins 102 begins 101 end" : "");
+        EXPECT_EQ(server.opened, 1);
     }
-    EXPECT_EQ(server.Heard(), "") << "the device is still being opened";
-    sounds.Finish(5s);
-    EXPECT_TRUE(server.Heard().starts_with("begins menu begins shuffle begins menu ends "));
-    EXPECT_EQ(server.opened, 1);
 }
 
 TEST(SoundsTest, AServerThatIsStartedAnewIsFoundByTheNextSound)
 {
     Server server;
-    server.length = 0ms;
     Sounds sounds(server.Maker());
     for (const int run : {1, 2, 0, 3}) {
         server.run = run;
@@ -92,15 +91,14 @@ TEST(SoundsTest, AServerThatIsStartedAnewIsFoundByTheNextSound)
 TEST(SoundsTest, TheProgramEndsWhenItsLastSoundHasBeenHeardAndInAnyCase)
 {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
-    const auto end = [](std::chrono::milliseconds length) {
+    const auto end = [](const std::string& sound) {
         Server server;
-        server.length = length;
         DesktopPlatform platform(server.Maker());
-        platform.PlayWave("/app/_exit.wav");
+        platform.PlayWave(sound);
         platform.EndProgram();
     };
-    EXPECT_EXIT(end(100ms), testing::ExitedWithCode(EXIT_SUCCESS), "ends /app/_exit.wav");
-    EXPECT_EXIT(end(1h), testing::ExitedWithCode(EXIT_SUCCESS), "begins /app/_exit.wav");
+    EXPECT_EXIT(end("100"), testing::ExitedWithCode(EXIT_SUCCESS), "ends 100");
+    EXPECT_EXIT(end("3600000"), testing::ExitedWithCode(EXIT_SUCCESS), "begins 3600000");
 }
 
 } // namespace

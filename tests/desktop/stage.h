@@ -8,7 +8,6 @@
 
 #include <QApplication>
 #include <QImage>
-#include <QMessageBox>
 #include <QScreen>
 #include <QTemporaryDir>
 #include <QTest>
@@ -17,8 +16,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdio>
-#include <cstdlib>
 #include <fstream>
 
 inline void PrintTo(const QRect& rect, std::ostream* out)
@@ -29,38 +26,20 @@ inline void PrintTo(const QRect& rect, std::ostream* out)
 namespace tessarine
 {
 
-/// The user's pointer, at a place of a control in logical pixels from its corner. Goes the whole way of
-/// the window system's events, so that a window behind a modal one gets nothing.
-class UsersHand
+/// What the user does with the mouse at a place of a control, in logical pixels from its corner. Goes
+/// the whole way of the window system's events, so that a window behind a modal one gets nothing.
+inline void Mouse(const DesktopPlatform& platform, QTest::MouseAction action, const Control& control,
+                  QPoint at, Qt::MouseButton button = Qt::LeftButton)
 {
-public:
-    explicit UsersHand(DesktopPlatform& platform) : platform_(platform) {}
-
-    void Press(const Control& control, QPoint at) { Send(QTest::MousePress, control, at); }
-    void Move(const Control& control, QPoint at) { Send(QTest::MouseMove, control, at); }
-    void Release(const Control& control, QPoint at) { Send(QTest::MouseRelease, control, at); }
-    void Click(const Control& control, QPoint at, Qt::MouseButton button = Qt::LeftButton)
-    {
-        Send(QTest::MouseClick, control, at, button);
-    }
-    void Click(const Control& control) { Click(control, QRect({}, PixelRect(control).size()).center()); }
-    void Type(const Control& control, Qt::Key key) { QTest::keyClick(&WindowOf(control), key); }
-
-private:
-    void Send(QTest::MouseAction action, const Control& control, QPoint at,
-              Qt::MouseButton button = Qt::LeftButton)
-    {
-        const Point place = control.PlaceOnForm();
-        QTest::mouseEvent(action, &WindowOf(control), action == QTest::MouseMove ? Qt::NoButton : button,
-                          {}, RoundedRect(place.x, place.y, 0, 0, PixelsPerTwip).topLeft() + at);
-    }
-    QWindow& WindowOf(const Control& control)
-    {
-        return *platform_.WindowOf(*control.OwnerForm())->windowHandle();
-    }
-
-    DesktopPlatform& platform_;
-};
+    const Point place = control.PlaceOnForm();
+    QTest::mouseEvent(action, platform.WindowOf(*control.OwnerForm())->windowHandle(),
+                      action == QTest::MouseMove ? Qt::NoButton : button, {},
+                      RoundedRect(place.x, place.y, 0, 0, PixelsPerTwip).topLeft() + at);
+}
+inline QPoint MiddleOf(const Control& control)
+{
+    return QRect({}, PixelRect(control).size()).center();
+}
 
 /// The widget of a windowed control on a shown form; the window, where it has none.
 inline QWidget& WidgetOf(const DesktopPlatform& platform, const Control& control)
@@ -74,37 +53,12 @@ inline QWidget& WidgetOf(const DesktopPlatform& platform, const Control& control
     return window;
 }
 
-/// How many users wait for a modal window. One that nobody waits for, or that stays when its user has
-/// done, ends the test program with its name: it would stand there for ever.
-inline int usersWaiting = 0;
-
-[[noreturn]] inline void EndAt(const QWidget& box, const char* trouble)
-{
-    const auto* const message = qobject_cast<const QMessageBox*>(&box);
-    std::fprintf(stderr, "%s: \"%s\" %s\n", trouble, qPrintable(box.windowTitle()),
-                 message == nullptr ? "" : qPrintable(message->text()));
-    std::_Exit(EXIT_FAILURE);
-}
-
 /// Runs `user` as soon as the next modal window is open.
-inline void WhenModal(std::function<void()> user,
+inline void WhenModal(const std::function<void()>& user,
                       const QWidget* before = QApplication::activeModalWidget())
 {
-    ++usersWaiting;
-    QTimer::singleShot(2, qApp, [user = std::move(user), before] {
-        --usersWaiting;
-        const QPointer<QWidget> box = QApplication::activeModalWidget();
-        if (box == before) {
-            return WhenModal(user, before);
-        }
-        user();
-        if (box) {
-            QTimer::singleShot(10'000, box, [box] {
-                if (box->isVisible() && box->isModal()) {
-                    EndAt(*box, "This box stays open");
-                }
-            });
-        }
+    QTimer::singleShot(2, qApp, [=] {
+        QApplication::activeModalWidget() == before ? WhenModal(user, before) : user();
     });
 }
 
@@ -114,6 +68,18 @@ class DesktopTest : public testing::Test
 protected:
     DesktopTest() { surface.SetBounds(30, 450, 3900, 3000); }
     void Events() { QTest::qWait(1); }
+    void Press(const Control& on, QPoint at) { Mouse(platform, QTest::MousePress, on, at); }
+    void Move(const Control& on, QPoint at) { Mouse(platform, QTest::MouseMove, on, at); }
+    void Release(const Control& on, QPoint at) { Mouse(platform, QTest::MouseRelease, on, at); }
+    void Click(const Control& on, QPoint at, Qt::MouseButton button = Qt::LeftButton)
+    {
+        Mouse(platform, QTest::MouseClick, on, at, button);
+    }
+    void Click(const Control& on) { Click(on, MiddleOf(on)); }
+    void Type(const Form& on, Qt::Key key)
+    {
+        QTest::keyClick(platform.WindowOf(on)->windowHandle(), key);
+    }
     /// The widget of the toolkit that stands for a control.
     template <class Widget = QWidget> Widget& Native(const Control& control)
     {
@@ -130,7 +96,6 @@ protected:
 
     DesktopPlatform platform;
     Forms forms{platform};
-    UsersHand hand{platform};
     struct BusyForm : Form {
         using Form::Form;
         bool IsBusy() const override { return busy; }

@@ -46,14 +46,12 @@ TEST_F(WidgetsTest, AListShowsAsChosenWhatItsControlSaysAndNothingElse)
     const auto row = [&](int number) {
         return view.viewport()->mapTo(&view, view.visualRect(view.model()->index(number, 0)).center());
     };
-    const auto click = [&](QPoint at, auto button) {
-        return after([&] { hand.Click(list, at, button); });
-    };
-    const auto type = [&](Qt::Key key) { return after([&] { hand.Type(list, key); }); };
+    const auto click = [&](QPoint at, auto button) { return after([&] { Click(list, at, button); }); };
+    const auto type = [&](Qt::Key key) { return after([&] { Type(form, key); }); };
     EXPECT_EQ(after([] {}), "");
     EXPECT_EQ(click(row(5) + QPoint(0, 40), Qt::RightButton), "2 ") << "on nothing";
-    EXPECT_EQ(after([&] { hand.Press(list, row(2)); }), "");
-    EXPECT_EQ(after([&] { hand.Release(list, {-20, 20}); }), "") << "not over the list";
+    EXPECT_EQ(after([&] { Press(list, row(2)); }), "");
+    EXPECT_EQ(after([&] { Release(list, {-20, 20}); }), "") << "not over the list";
     EXPECT_EQ(type(Qt::Key_Down), "clay1 ") << "the first row";
     EXPECT_EQ(click(row(1), Qt::RightButton), "mist2 ");
     EXPECT_EQ(click(row(2), Qt::MiddleButton), "sand4 ");
@@ -97,17 +95,17 @@ TEST_F(WidgetsTest, AScrollBarMayHaveItsLargerEndAtTheTop)
     red.OnChange = [&] { heard.push_back(red.Value()); };
     Show({&red});
     const QPoint thumb(8, 20); // while it is at the top
-    hand.Click(red, {8, 112}); // the lower arrow
-    hand.Click(red, {8, 95});  // below the thumb
+    Click(red, {8, 112});      // the lower arrow
+    Click(red, {8, 95});       // below the thumb
     EXPECT_EQ(heard, (std::vector<Whole>{252, 212}));
     red.SetValue(255);
     Events();
-    hand.Press(red, thumb);
-    hand.Move(red, thumb + QPoint(0, 20));
+    Press(red, thumb);
+    Move(red, thumb + QPoint(0, 20));
     EXPECT_EQ(heard.size(), 3U) << "a thumb on its way says nothing";
     red.SetToolTip("what is said of it meanwhile");
     Events();
-    hand.Release(red, thumb + QPoint(0, 20));
+    Release(red, thumb + QPoint(0, 20));
     EXPECT_TRUE(heard.size() == 4 && red.Value() < 230) << red.Value();
 }
 
@@ -125,27 +123,27 @@ TEST_F(WidgetsTest, OptionsTurnOnlyAsTheirControlsDo)
     }
     Show(all);
     for (const Control* each : std::initializer_list<Control*>{&one, &two, &two}) {
-        hand.Click(*each); // a second time, too: it stays
+        Click(*each); // a second time, too: it stays
     }
     EXPECT_TRUE(!one.Value() && two.Value());
-    hand.Click(one, {20, 8}, Qt::RightButton);
+    Click(one, {20, 8}, Qt::RightButton);
     EXPECT_TRUE(one.Value());
-    hand.Click(two, {20, 8}, Qt::MiddleButton);
+    Click(two, {20, 8}, Qt::MiddleButton);
     form.busy = true;
-    hand.Click(one);
+    Click(one);
     form.busy = false;
     EXPECT_TRUE(two.Value());
     QTest::mousePress(&Native(one), Qt::RightButton);
     QTest::mouseRelease(&Native(one), Qt::RightButton, {}, {20, 100});
     EXPECT_TRUE(two.Value()) << "released somewhere else";
-    hand.Click(button, {20, 8}, Qt::RightButton);
+    Click(button, {20, 8}, Qt::RightButton);
     Native(button).setFocus();
-    hand.Type(button, Qt::Key_Return);
-    hand.Click(text);
+    Type(form, Qt::Key_Return);
+    Click(text);
     EXPECT_EQ(presses, 3);
     one.SetEnabled(false);
     Events();
-    hand.Click(one);
+    Click(one);
     EXPECT_TRUE(two.Value() && presses == 3) << "nor does what lies behind it hear of it";
 }
 
@@ -188,10 +186,10 @@ TEST_F(WidgetsTest, APageIsLoadedAnewAndEveryVisitShows)
         const QTextCursor found = text.document()->find(QString::fromLatin1(link));
         return text.viewport()->mapTo(&text, text.cursorRect(found).center() - QPoint(8, 0));
     };
-    hand.Press(browser, placeOf("before"));
-    hand.Release(browser, placeOf("before") + QPoint(0, 100));
+    Press(browser, placeOf("before"));
+    Release(browser, placeOf("before") + QPoint(0, 100));
     EXPECT_EQ(browser.Location().anchor, "") << "the hand has thought better of it";
-    hand.Click(browser, placeOf("before"));
+    Click(browser, placeOf("before"));
     Events();
     const int end = bar.value();
     EXPECT_GT(end, 500);
@@ -215,17 +213,17 @@ TEST_F(WidgetsTest, APageIsLoadedAnewAndEveryVisitShows)
         form.FeedActivation();
         bar.setValue(end - 30);
         const QPoint place = placeOf("again");
-        hand.Move(browser, place);
+        Move(browser, place);
         if (turn == 1) {
             help.FeedActivation();
             Events();
             EXPECT_EQ(bar.value(), 0);
         }
-        hand.Press(browser, place);
+        Press(browser, place);
         if (turn == 2) {
             Events();
         }
-        hand.Release(browser, place);
+        Release(browser, place);
         help.FeedActivation();
         Events();
         EXPECT_EQ(bar.value(), end) << turn;

@@ -8,10 +8,12 @@
 #include <QAbstractEventDispatcher>
 #include <QCursor>
 #include <QElapsedTimer>
-#include <QFile>
 #include <QFileDialog>
+#include <QHeaderView>
 #include <QInputDialog>
+#include <QMessageBox>
 #include <QPushButton>
+#include <QToolButton>
 #include <QTreeView>
 
 namespace tessarine
@@ -40,7 +42,7 @@ protected:
     {
         WhenModal([this, keys] {
             for (const Qt::Key key : keys) {
-                hand.Type(form, key);
+                Type(form, key);
             }
         });
         form.ShowModal(nullptr);
@@ -73,21 +75,22 @@ TEST_F(WindowTest, TheKeyboardWorksADialog)
     form.Unload();
     form.Show();
     for (const auto key : {Qt::Key_Tab, Qt::Key_Space, Qt::Key_Return}) {
-        hand.Type(form, key);
+        Type(form, key);
     }
     EXPECT_EQ(pressed, nullptr);
 
     MsgForm box(forms);
     for (const auto& [style, answer] : std::vector<std::pair<const char*, Whole>>{
              {"vbyesno", AnswerNo}, {"vbokcancel", 2}, {"vbyesno", AnswerNo}, {"vbyesno+vbcancel", 2}}) {
-        WhenModal([&] { hand.Type(box, Qt::Key_Return); });
+        WhenModal([&] { Type(box, Qt::Key_Return); });
         EXPECT_EQ(box.MsgboxA("Exit?", style), answer) << "what changes nothing: " << style;
     }
 }
 
 TEST_F(WindowTest, AWindowHasTheTitleTheIconAndTheButtonsOfItsFrame)
 {
-    const Picture icon;
+    const Picture icon{
+        8, {{Shape::Kind::Polygon, {{0, 0}, {8, 0}, {8, 8}, {0, 8}}, Rgb(0, 0, 255), {}, 1, 0, 0}}};
     form.SetIcon(icon);
     for (const bool has : {false, true}) {
         form.HasCloseBox = has;
@@ -96,7 +99,8 @@ TEST_F(WindowTest, AWindowHasTheTitleTheIconAndTheButtonsOfItsFrame)
         QTest::qWait(20);
         QWidget& window = *platform.WindowOf(form);
         EXPECT_EQ(window.windowTitle(), QStringLiteral("test"));
-        EXPECT_FALSE(window.windowIcon().isNull());
+        const QPixmap shown = window.windowIcon().pixmap(128);
+        EXPECT_EQ(shown.toImage().pixel(shown.rect().bottomRight()), qRgb(0, 0, 255));
         EXPECT_EQ(window.windowFlags().testFlag(Qt::WindowCloseButtonHint), has);
         EXPECT_EQ(window.windowFlags().testFlag(Qt::WindowMaximizeButtonHint), has);
         window.close();
@@ -119,7 +123,7 @@ TEST_F(WindowTest, APressTellsItsKeysAndOneWhoseReleaseWasLostIsOver)
         QTest::mouseClick(platform.WindowOf(form)->windowHandle(), Qt::LeftButton, key, {5, 5});
     }
     form.FeedMouseDown({LeftButton, 0, 100, 100}); // and its release never comes
-    hand.Click(second);
+    Click(second);
     EXPECT_EQ(heard, (std::vector{1, -1, 2, -1, 4, -1, 0, -1}));
     EXPECT_EQ(pressed, &second);
 }
@@ -265,39 +269,27 @@ TEST_F(WindowTest, ABoxOfTheSystemWearsTheColoursOfItsFormAndReturnsWhatWasAnswe
     }
 }
 
-TEST_F(WindowTest, TheLatestDealIsTheFirstToBeLoadedAndASaveProposesItsName)
+TEST_F(WindowTest, TheLatestDealStandsFirstAndASaveProposesItsName)
 {
     const QTemporaryDir folder;
-    const QDateTime noon(QDate(2026, 3, 14), QTime(12, 0));
-    for (const int number : {1, 3, 2}) {
-        QFile file(folder.filePath(QStringLiteral("savedgame%1.gam").arg(number)));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        ASSERT_TRUE(
-            file.setFileTime(noon.addDays(number == 2 ? 5 : number), QFile::FileModificationTime));
-    }
+    const std::string fresh = PathToBytes(folder.filePath(QStringLiteral("new.gam")));
     for (const bool save : {false, true}) {
         WhenModal([&] {
             auto* const box = dynamic_cast<QFileDialog*>(QApplication::activeModalWidget());
             const auto* const files = box->findChild<QTreeView*>(QStringLiteral("treeView"));
-            EXPECT_EQ(box->acceptMode(), save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+            EXPECT_EQ(files->header()->sortIndicatorSection(), 3) << "by their dates";
+            EXPECT_EQ(files->header()->sortIndicatorOrder(), Qt::DescendingOrder);
             EXPECT_TRUE(files->isColumnHidden(1) && files->isColumnHidden(2));
-            EXPECT_TRUE(QTest::qWaitFor([&] { // the list is sorted a while after it was read
-                QString shown;
-                for (int row = 0; row < files->model()->rowCount(files->rootIndex()); ++row) {
-                    shown += files->model()->index(row, 0, files->rootIndex()).data().toString()[9];
-                }
-                return shown == QStringLiteral("231");
-            }));
+            EXPECT_EQ(box->acceptMode(), save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+            for (const auto* const tool : box->findChildren<QToolButton*>()) {
+                EXPECT_EQ(tool->isVisible(), tool->text() == QStringLiteral("Up"));
+            }
             save ? box->findChild<QPushButton*>()->click() : box->reject();
         });
-        const std::string chosen = platform.ChooseFile({.save = save,
-                                                        .title = "t",
-                                                        .typesName = "games",
-                                                        .types = "*.gam",
-                                                        .folder = ToBytes(folder.path()),
-                                                        .name = save ? "new.gam" : ""},
-                                                       nullptr);
-        EXPECT_EQ(chosen, save ? PathToBytes(folder.filePath(QStringLiteral("new.gam"))) : "");
+        const std::string name = save ? "new.gam" : "";
+        EXPECT_EQ(
+            platform.ChooseFile({save, "t", "games", "*.gam", ToBytes(folder.path()), name}, nullptr),
+            save ? fresh : "");
     }
 }
 
