@@ -197,6 +197,14 @@ TEST(DiskTest, TellsWhichFileAndWhy)
         {FileFault::InUse, "Another program has the file open"},
         {FileFault::TooLarge, "The file is too large to be one of this program"},
         {FileFault::Other, "It is no plain file, or the disk is at fault"}};
+    GameWorld exits;
+    Texts last;
+    Agree(exits.platform, last);
+    exits.platform.writeProtected = {"/app/tessarine.cfg"};
+    exits.Press(exits.form.cmdexit);
+    EXPECT_EQ(last.back(),
+              "Critical: Configuration file:\r\n/app/tessarine.cfg\r\ncould not be accessed, "
+              "options not saved");
     for (const auto& [why, words] : cases) {
         // The copy can't be written; the snapshot can neither be read nor written.
         for (const auto& [failing, file] :

@@ -38,7 +38,7 @@ std::string Told(const MsgForm& box)
                              icon.Top() == 90 && icon.Width() == 480 && icon.Height() == 480;
         told += isThere ? names.at(i) + std::string(": ") : "";
     }
-    return told + box.Label1.Caption();
+    return told + (box.Label1.OwnerForm() == &box ? box.Label1.Caption() : "");
 }
 
 void Answer(HeadlessPlatform& platform, const std::string& caption, std::vector<std::string>& told)
