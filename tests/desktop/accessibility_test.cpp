@@ -15,13 +15,6 @@ protected:
     {
         return *QAccessible::queryAccessibleInterface(&WidgetOf(platform, control));
     }
-    /// Does the first thing that a tool may do with a control.
-    void Act(const Control& control)
-    {
-        QAccessibleActionInterface* const actions = Of(control).actionInterface();
-        actions->doAction(actions->actionNames().value(0));
-        Events();
-    }
 };
 
 TEST_F(AccessibilityTest, CardsAreThingsOnTheTable)
@@ -59,36 +52,25 @@ TEST_F(AccessibilityTest, CardsAreThingsOnTheTable)
     EXPECT_EQ(thing->text(QAccessible::Name), "");
 }
 
-TEST_F(AccessibilityTest, AToolWorksWhatAHandWorksAndSeesHowItStands)
+TEST_F(AccessibilityTest, AToolWorksControlsAndSeesHowTheyStand)
 {
     ScrollBar red(ScrollBar::Direction::Down);
     CheckBox check;
     BoxControl button;
-    button.MouseUp = [this](const MouseEvent&) { platform.PlainMessage("?", PlainButtons::Ok); };
-    Show({&red, &check, &button});
     red.SetRange(255, 0, 1, 1);
     red.SetValue(200);
+    Show({&red, &check, &button});
     ASSERT_NE(Of(red).valueInterface(), nullptr);
     EXPECT_EQ(Of(red).valueInterface()->currentValue().toInt(), 200) << "not that of a bar turned over";
     Of(red).valueInterface()->setCurrentValue(17);
     EXPECT_EQ(red.Value(), 17);
+    EXPECT_EQ(Of(button).role(), QAccessible::Button);
     for (const bool isSet : {true, false}) {
-        Act(check);
+        Of(check).actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        EXPECT_EQ(check.Value(), !isSet) << "a box may come up, and the tool has its answer before";
+        Events();
         EXPECT_TRUE(check.Value() == isSet && Of(check).state().checked == isSet);
     }
-    EXPECT_EQ(Of(button).role(), QAccessible::Button);
-    bool hasItsAnswer = false;
-    bool wasOpen = false;
-    WhenModal([&] {
-        EXPECT_TRUE(hasItsAnswer) << "the tool waits for a box";
-        QWidget* const box = QApplication::activeModalWidget();
-        EXPECT_TRUE(QAccessible::queryAccessibleInterface(box)->state().modal);
-        box->close();
-        wasOpen = true;
-    });
-    Of(button).actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-    hasItsAnswer = true;
-    EXPECT_TRUE(QTest::qWaitFor([&] { return wasOpen; }));
 }
 
 TEST_F(AccessibilityTest, TheOptionsTellWhatEveryControlIsForAndHowFarTheSliderIs)

@@ -116,12 +116,13 @@ TEST_F(WidgetsTest, OptionsTurnOnlyAsTheirControlsDo)
     PushButton button;
     TextBox text;
     int presses = 0;
-    form.MouseDown = text.MouseDown = button.MouseUp = [&](const MouseEvent&) { ++presses; };
+    surface.MouseDown = text.MouseDown = button.MouseUp = [&](const MouseEvent&) { ++presses; };
     const std::vector<Control*> all = {&one, &two, &button, &text};
     for (std::size_t i = 0; i < all.size(); ++i) {
         all[i]->SetBounds(150, 300 * static_cast<Twips>(i), 1800, 240);
+        surface.Add(*all[i]);
     }
-    Show(all);
+    Show({&surface});
     for (const Control* each : std::initializer_list<Control*>{&one, &two, &two}) {
         Click(*each); // a second time, too: it stays
     }
