@@ -11,7 +11,7 @@ test_packages=(libgtest-dev libbenchmark-dev clang clang-format clang-tidy libcl
                xvfb openbox xdotool wmctrl x11-utils x11-apps imagemagick
                desktop-file-utils
                python3-gi gir1.2-atspi-2.0 at-spi2-core dbus-daemon weston
-               faketime i3-wm ratpoison)
+               faketime strace i3-wm ratpoison)
 
 say() { printf '%s\n' "$*"; }
 

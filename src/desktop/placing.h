@@ -13,15 +13,15 @@ namespace tessarine::placing
 /// The corner of a window of this size by another, or by the screen itself.
 using Rule = QPoint(QSize outer, const QRect& other, const QRect& screen);
 
-/// Wholly on the screen, as near to the wanted place as can be. What is larger than the screen shows
-/// its upper left part.
+/// Wholly on the screen, as near to the wanted place as can be. What is higher than the screen shows its
+/// upper part; what is wider, such as a box that tells a very long path, its middle, where its buttons
+/// are.
 inline QPoint HeldOn(const QRect& screen, QPoint wanted, QSize outer)
 {
-    const auto held = [](int place, int size, int first, int length) {
-        return std::max(first, std::min(place, first + length - size));
-    };
-    return {held(wanted.x(), outer.width(), screen.x(), screen.width()),
-            held(wanted.y(), outer.height(), screen.y(), screen.height())};
+    const int lastX = screen.x() + screen.width() - outer.width();
+    const int lastY = screen.y() + screen.height() - outer.height();
+    return {lastX < screen.x() ? (screen.x() + lastX) / 2 : std::clamp(wanted.x(), screen.x(), lastX),
+            std::max(screen.y(), std::min(wanted.y(), lastY))};
 }
 
 /// In the middle.

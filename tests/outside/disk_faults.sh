@@ -1,19 +1,15 @@
 #!/usr/bin/env bash
 # Everything that a disk can do to a player's files. Each command that touches a file is worked once for
-# each operation on the disk and each way in which that can fail, and once for a kill before and after
-# it. Then every file must be its old self or its new one, what was told must be true, and the program
-# must come up again with every count that it had.
+# each call of the system on a file and each way in which that can fail, and once for a kill before it,
+# which is one after the last. Then every file must be its old self or its new one, what was told must be
+# true, and the program must come up again with every count that it had.
 #   disk_faults.sh BUILD-FOLDER [COMMAND...]
 set -u
-me=$(readlink -f "$0")
-build=$(readlink -f "$1")
-export build work
-. "${me%/*}/helpers.sh"
+. "$(dirname "$(readlink -f "$0")")/helpers.sh"
+shift
 
 # What is pressed. The last word of a row is what the counts may become.
-commands() {
-    cat <<END
-first_day;New Game;1 0 0 1
+commands='first_day;New Game;1 0 0 1
 start;New Game;6 2 1 3
 new;New Game;6 2 1 3
 save;Save Game;
@@ -24,20 +20,18 @@ add;Options|Add|text:foo;
 replace;Options|row:linen|Replace;
 delete;Options|row:linen|Delete;
 apply;Options|row:linen|Apply;
-exit;Exit;
-END
-}
+exit;Exit;'
 
-ways_of() { # OPERATION: the errors by number (2 gone, 5 fault, 13 forbidden, 28 no room), and more
+ways_of() { # CALL BYTES: the errors, or how many bytes there is room for
     case $1 in
-        open* | rename | mkdir) echo 2 5 13 28 ;;
-        fopen* | *stat) echo 2 5 13 ;;
-        read) echo 5 short ;;
-        write) echo 5 28 short ;;
-        fsync | close) echo 5 28 ;;
-        *) echo 5 13 ;;
+        openat | rename) echo ENOENT EIO EACCES ENOSPC ;;
+        *stat* | readlink | *access*) echo ENOENT EIO EACCES ;;
+        read) echo EIO ;;
+        write) echo EIO ENOSPC $(($2 / 2)) ;;
+        fsync | close) echo EIO ENOSPC ;;
+        *) echo EIO EACCES ;;
     esac
-    echo before after
+    echo kill
 }
 
 furnish() { # FOLDER COMMAND: a program as its player left it, with links here and there
@@ -48,9 +42,19 @@ furnish() { # FOLDER COMMAND: a program as its player left it, with links here a
     cp "$work/whole/tessarine.sco" "$1/real/scores" && ln -s real/scores "$1/tessarine.sco"
 }
 
+# on_disk FOLDER HAND [OPTIONS...]: plays there, with each call on the files of a player in FOLDER.calls.
+# The program's number, which is part of names, is that of the shell which turns into it.
+on_disk() {
+    # shellcheck disable=SC2016
+    play "$1" "${2//file:/file:$1/}" bash -c 'for file in {tessarine.{cfg,sco},tempgame.txt,all.col,newall.cox,old.gam,"savedgame;01.gam",real/{scores,schemes}}{,.$$.part} .; do
+            watched+=(-P "$0/$file" -P "$file")
+        done
+        exec strace -D -y -o "$0.calls" -e trace=%file,%desc "${watched[@]}" "$@"' "$1" "${@:3}"
+}
+
 other_schemes() { sed '16,28d' "$1"; } # than the one that is replaced, by whatever colours were on show
 
-faults_of() { # FOLDER COMMAND NEW-COUNTS KILLED: what is not as it should be
+faults_of() { # FOLDER COMMAND NEW-COUNTS WAY: what is not as it should be
     local folder=$1 path file now
     for file in tempgame.txt old.gam tessarine.cfg tessarine.sco all.col; do
         [ -e "$folder/$file" ] || [ "$2" = first_day ] || echo "$file is gone"
@@ -59,7 +63,7 @@ faults_of() { # FOLDER COMMAND NEW-COUNTS KILLED: what is not as it should be
         file=$(basename "$path")
         case $file in
             tessarine | real) ;;
-            *.part) [ "$4" = yes ] || echo "$file is left" ;;
+            *.part) [ "$4" = kill ] || echo "$file is left" ;;
             old.gam) cmp "$path" "$work/whole/old.gam" ;;
             tempgame.txt | savedgame*) is_game "$path" || echo "$file is no game" ;;
             tessarine.cfg) # one that can't be read is begun anew
@@ -82,53 +86,54 @@ faults_of() { # FOLDER COMMAND NEW-COUNTS KILLED: what is not as it should be
     done
 }
 
-one() { # COMMAND HAND NEW-COUNTS AT FATE OPERATION PATH: prints what went wrong
-    local folder="$work/$1.$4.$5" wrong='' code before
-    furnish "$folder" "$1"
-    { DISK_AT=$4 DISK_FATE=$5 play "$folder" "${2//file:/file:$folder/}"; } 2>/dev/null # no word of the kill
-    code=$?
-    case $5.$code in
-        before.137 | after.137) wrong=$(faults_of "$folder" "$1" "$3" yes) ;;
-        *.0) wrong=$(faults_of "$folder" "$1" "$3" no; grep -q '^done' "$folder.told" || [ "$1" = exit ] || cat "$folder.told") ;;
-        *) wrong="it ended with code $code" ;;
-    esac 2>&1
-    before=$(cat "$folder"/real/scores "$folder/tessarine.sco" 2>/dev/null)
-    play "$folder" '' && grep -q '^done' "$folder.told" || wrong+=" it does not come up again"
-    if [ -n "$before" ]; then
-        [ "$before" = "$(cat "$folder"/real/scores "$folder/tessarine.sco" 2>/dev/null)" ] || wrong+=" the start changed the counts"
+one() { # COMMAND HAND NEW-COUNTS CALL AT WAY: prints what went wrong
+    local folder="$work/$1.$4.$5.$6" hand=$2 fate=() wanted=0 code before
+    case $6 in
+        kill) fate=(-e "inject=$4:signal=KILL:when=$5") wanted=137 ;;
+        E*) fate=(-e "inject=$4:error=$6:when=$5") ;;
+        *) hand="room:$6|$hand" && [[ $1 =~ start|first_day ]] || hand="About|$hand" ;; # not yet at the start
+    esac
+    for _ in {1..3}; do # a list of files looks into them or not, as its time allows
+        furnish "$folder" "$1"
+        on_disk "$folder" "$hand" "${fate[@]}" 2>/dev/null # no word of the kill
+        code=$?
+        [ "$6.$code" = kill.0 ] || break
+    done
+    {
+        [ "$code" = "$wanted" ] || echo "it ended with code $code"
+        faults_of "$folder" "$1" "$3" "$6"
+        [ "$6" = kill ] || [ "$1" = exit ] || grep -q '^done' "$folder.told" || cat "$folder.told"
+        before=$(cat "$folder"/real/scores "$folder/tessarine.sco")
+        play "$folder" '' && grep -q '^done' "$folder.told" || echo "it does not come up again"
+        [ -z "$before" ] || [ "$before" = "$(cat "$folder"/real/scores "$folder/tessarine.sco")" ] || echo "the start changed the counts"
+    } >"$folder.wrong" 2>/dev/null
+    if [ -s "$folder.wrong" ]; then
+        echo "FAILED $1, $4 number $5, $6: $(cat "$folder.wrong") (the call was $(sed -n "/^$4(/p" "$folder.calls" | sed -n "$5p"))"
     fi
-    [ -z "$wrong" ] || echo "FAILED $1, operation $4 ($6 ${7#"$folder/"}), $5: $wrong"
-    [ -n "$wrong" ] || rm -rf "$folder" "$folder".*
-    echo "ran $1"
+    rm -rf "$folder" "$folder".*
+    echo "ran $1 $6"
 }
 
-if [ "${2:-}" = one ]; then
-    one "${@:3}"
-    exit
-fi
-
-shift
-work=$(mktemp -d)
-trap 'rm -rf -- "$work"' EXIT
 mkdir "$work/whole" && cp "$build/tessarine/tessarine" "$work"
 write_files "$work/whole"
-started=0 # operations of the start, which the rows behind "start" leave out
 while IFS=';' read -r -u 4 command hand new; do
-    folder=$work/$command
-    furnish "$folder" "$command"
-    play "$folder" "${hand//file:/file:$folder/}" || echo "FAILED $command without any fault: $(cat "$folder".*)"
-    cp "$folder.ops" "$work/ops"
-    [ "$command" != start ] || started=$(awk '/tempgame/ && $2 == "rename" { print $1 + 3; exit }' "$work/ops")
     [ $# -eq 0 ] || [[ " $* " == *" $command "* ]] || continue
-    while read -r at operation path; do
-        if [ "$at" -gt "$started" ] || [ "$command" = start ]; then
-            for way in $(ways_of "$operation"); do
-                printf '%s\0' one "$command" "$hand" "$new" "$at" "$way" "$operation" "$path"
-            done
-        fi
-    done <"$work/ops"
-done 4< <(commands) | nice xargs -0 -r -n 8 -P 2 "$me" "$build" |
-    awk '/^ran / { ++runs[$2]; ++all; next } { print; failed += /^FAILED/ } END {
-        for (command in runs) printf "%s %d, ", command, runs[command]
-        printf "in all %d times a fault or a kill, %d went wrong\n", all, failed
+    folder=$work/$command
+    calls=()
+    for way in '' "$hand"; do # the calls of the start alone, and all
+        furnish "$folder" "$command" && on_disk "$folder" "$way" || echo "FAILED $command without any fault: $(cat "$folder".*)"
+        until grep -q '^+++' "$folder.calls"; do sleep 0.01; done
+        calls+=("$(grep -c '^[a-z]' "$folder.calls")")
+    done
+    [[ ! $command =~ start|first_day ]] || calls[0]=0
+    while read -r call at bytes; do
+        for way in $(ways_of "$call" "$bytes"); do
+            [ "$(jobs -r | wc -l)" -lt 2 ] || wait -n
+            one "$command" "$hand" "$new" "$call" "$at" "$way" &
+        done
+    done < <(awk -F '(' -v "start=${calls[0]}" '{ ++n[$1] } NR > start && /^[a-z]/ { size = $0; sub(/.* = /, "", size); print $1, n[$1], size }' "$folder.calls")
+done 4<<<"$commands" |
+    awk '/^ran / { ++all; kills += $3 == "kill"; next } { print; failed += /^FAILED/ } END {
+        printf "in all %d faults and %d kills, %d went wrong\n", all - kills, kills, failed
         exit failed > 0 || all == 0 }'
+wait

@@ -2,10 +2,12 @@
 // buttons and tells on the standard output what comes up.
 //   HAND="New Game|Options|row:linen|Delete"   what it presses, one after the other. A box of which the
 // list knows nothing is answered with Yes or Ok; "row:" picks a row of a list, "file:" and "text:"
-// answer a dialog, at "wait" all stays as it is. At the list's end the main window is closed.
+// answer a dialog, from "room:50" on no file gets longer than 50 bytes, at "wait" all stays as it is. At
+// the list's end the main window is closed.
 #include <QAbstractItemView>
 #include <QAccessible>
 #include <QApplication>
+#include <QDebug>
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QLineEdit>
@@ -15,10 +17,14 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <csignal>
 #include <cstdio>
 #include <functional>
-#include <unistd.h>
+#include <utility>
 #include <vector>
+
+#include <sys/resource.h>
+#include <unistd.h>
 
 namespace
 {
@@ -56,24 +62,31 @@ QAccessibleInterface* Button(const QWidget& window, const QString& name)
     return found == all.end() ? nullptr : *found;
 }
 
-using Action = std::function<void()>;
-
-Action ClickOn(QAbstractItemView& list, const QModelIndex& row)
+void ClickOn(QAbstractItemView& list, const QModelIndex& row)
 {
-    return [&list, row] {
-        list.scrollTo(row);
-        const QPointF at = list.visualRect(row).center();
-        for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
-            QMouseEvent event(type, at, list.viewport()->mapToGlobal(at), Qt::LeftButton, {}, {});
-            QApplication::sendEvent(list.viewport(), &event);
-        }
-    };
+    list.scrollTo(row);
+    const QPointF at = list.visualRect(row).center();
+    for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+        QMouseEvent event(type, at, list.viewport()->mapToGlobal(at), Qt::LeftButton, {}, {});
+        QApplication::sendEvent(list.viewport(), &event);
+    }
+}
+
+/// No file gets longer than so many bytes from now on, as on a disk that is full then.
+void LimitRoom(const QString& bytes)
+{
+    const rlimit room{bytes.toULong(), RLIM_INFINITY};
+    std::signal(SIGXFSZ, SIG_IGN);
+    setrlimit(RLIMIT_FSIZE, &room);
 }
 
 /// How to do the wish in this window; none if it is not one for it.
-Action WayTo(const QString& wish, QWidget& window)
+std::function<void()> WayTo(const QString& wish, QWidget& window)
 {
     const QString value = wish.section(u':', 1);
+    if (wish.startsWith(u"room:")) {
+        return [=] { LimitRoom(value); };
+    }
     if (auto* const box = qobject_cast<QInputDialog*>(&window); box && wish.startsWith(u"text:")) {
         return [=] { box->setTextValue(value), box->accept(); };
     }
@@ -83,13 +96,10 @@ Action WayTo(const QString& wish, QWidget& window)
             QMetaObject::invokeMethod(box, "accept");
         };
     }
-    if (wish.startsWith(u"row:")) {
-        for (auto* list : window.findChildren<QAbstractItemView*>()) {
-            const QModelIndex first = list->model()->index(0, 0);
-            const auto rows = list->model()->match(first, Qt::DisplayRole, value, 1, Qt::MatchExactly);
-            if (list->isVisible() && !rows.isEmpty()) {
-                return ClickOn(*list, rows.first());
-            }
+    for (auto* list : window.findChildren<QAbstractItemView*>()) {
+        const auto rows = list->model()->match(list->model()->index(0, 0), Qt::DisplayRole, value, 1);
+        if (wish.startsWith(u"row:") && list->isVisible() && !rows.isEmpty()) {
+            return [=] { ClickOn(*list, rows.first()); };
         }
     }
     QAccessibleInterface* const button = Button(window, wish);
@@ -104,51 +114,50 @@ Action WayTo(const QString& wish, QWidget& window)
 }
 
 /// A window has settled when its frame and its place are known, which a window manager tells in its
-/// time.
-void TellWhetherOnScreen(const QWidget& window)
+/// time. Of one that is wider than the screen, what is to be pressed can be reached.
+void TellWhetherOnScreen(const QWidget& window, const QString& wish)
 {
-    const QRect place = window.frameGeometry();
     const QRect screen = window.screen()->geometry();
-    if (!screen.contains(place) && place.width() <= screen.width()) {
-        Tell("off the screen", QStringLiteral("%1 at %2, %3 of %4 by %5")
-                                   .arg(window.windowTitle())
-                                   .arg(place.x())
-                                   .arg(place.y())
-                                   .arg(place.width())
-                                   .arg(place.height()));
+    const QAccessibleInterface* const button = Button(window, wish);
+    QRect place = window.frameGeometry();
+    if (button != nullptr && place.width() > screen.width()) {
+        place = button->rect();
+    }
+    if (!screen.contains(place)) {
+        QString text;
+        QDebug(&text) << window.windowTitle() << wish << place;
+        Tell("off the screen", text);
     }
 }
 
 void TellOf(const QWidget& box)
 {
-    static const QWidget* last = nullptr;
-    static QString lastText;
-    QString text;
+    static QString last;
+    QString text = box.windowTitle() + u' ';
     for (const QAccessibleInterface* part :
          AllIn(QAccessible::queryAccessibleInterface(const_cast<QWidget*>(&box)))) {
         text +=
             part->role() == QAccessible::StaticText ? part->text(QAccessible::Name) + u' ' : QString();
     }
-    if (last != &box || lastText != text) {
-        Tell("box", box.windowTitle() + u' ' + text);
-        TellWhetherOnScreen(box);
+    if (std::exchange(last, text) != text) {
+        Tell("box", text);
     }
-    last = &box;
-    lastText = text;
 }
 
-/// Whether nothing goes on in the loop that called: one that a command lets run in the middle of its
-/// work is called from deeper in the stack than the loop itself.
-bool IsIdle()
+/// Whether nothing goes on in the wait that called: one that a command lets run in the middle of its
+/// work is called from deeper in the stack than that for the box itself.
+bool IsIdle(const QWidget* box)
 {
-    static std::vector<const char*> shallowest; // by the level of the loop
-    const auto level = static_cast<std::size_t>(QThread::currentThread()->loopLevel());
+    static std::vector<std::pair<const QWidget*, const char*>> waits{{}}; // the shallowest, box on box
     const auto* const here = static_cast<const char*>(__builtin_frame_address(0));
-    shallowest.resize(level + 1, nullptr);
-    constexpr std::ptrdiff_t oneLoop = 500; // bytes within which its calls differ
-    const bool isLoop = shallowest[level] - here < oneLoop;
-    shallowest[level] = std::max(shallowest[level], here);
-    return isLoop && level > 0;
+    auto known = std::ranges::find(waits, box, &decltype(waits)::value_type::first);
+    if (known == waits.end()) {
+        known = waits.insert(known, {box, here});
+    }
+    waits.erase(known + 1, waits.end());
+    known->second = std::max(known->second, here);
+    constexpr std::ptrdiff_t oneWait = 500; // bytes within which its calls differ
+    return known->second - here < oneWait;
 }
 
 /// What was pressed last may reach the program only in its next round of events: this comes behind it.
@@ -161,27 +170,27 @@ void Step()
 {
     QTimer::singleShot(2, qApp, &Step);
     QWidget* const box = QApplication::activeModalWidget();
-    const QWidgetList all = QApplication::topLevelWidgets();
-    const auto main = std::ranges::find_if(all, [](const QWidget* one) {
-        return one->isVisible() && one->windowTitle() == u"Tessarine" && !one->isModal();
-    });
-    QWidget* const window = box != nullptr ? box : main == all.end() ? nullptr : *main;
-    const bool isInBox = QThread::currentThread()->loopLevel() > 1;
-    if (!IsIdle() || (isInBox && box == nullptr) || window == nullptr || arrival.isAwaited) {
+    QWidget* window = box;
+    for (QWidget* const one : QApplication::topLevelWidgets()) {
+        if (box == nullptr && one->isVisible() && one->windowTitle() == u"Tessarine" &&
+            !one->isModal()) {
+            window = one;
+        }
+    }
+    const bool isStarting = box == nullptr && QThread::currentThread()->loopLevel() == 0;
+    if (window == nullptr || isStarting || arrival.isAwaited || !IsIdle(box)) {
         return;
     }
+    QStringList wishes = Wishes().mid(0, 1);
     if (box != nullptr) {
         TellOf(*box);
-    } else {
-        TellWhetherOnScreen(*window);
+        wishes += {"Yes", "Ok", "OK", "Exit", "Cancel"};
     }
-    const QStringList answers = {"Yes", "Ok", "OK", "Exit", "Cancel"};
-    const QStringList wishes = Wishes().mid(0, 1) + (box != nullptr ? answers : QStringList());
-    const auto wish =
-        std::ranges::find_if(wishes, [&](const QString& one) { return WayTo(one, *window) != nullptr; });
     if (Wishes().value(0) == u"wait") {
         return; // until something from outside ends it
     }
+    const auto wish =
+        std::ranges::find_if(wishes, [&](const QString& one) { return WayTo(one, *window) != nullptr; });
     static int waited = 0; // what a press has brought up is there a moment later
     if (wish == wishes.end() && !Wishes().isEmpty() && ++waited < 500) {
         // later
@@ -189,20 +198,24 @@ void Step()
         Tell(Wishes().isEmpty() ? "done" : "cannot", Wishes().value(0));
         window->close();
     } else {
-        if (*wish == Wishes().value(0)) {
-            Tell("does", *wish);
+        const QString chosen = *wish;
+        TellWhetherOnScreen(*window, chosen);
+        if (chosen == Wishes().value(0)) {
+            Tell("does", chosen);
             Wishes().removeFirst();
         }
         waited = 0;
         arrival.isAwaited = true;
         QCoreApplication::postEvent(&arrival, new QEvent(QEvent::User), Qt::LowEventPriority);
-        WayTo(*wish, *window)();
+        WayTo(chosen, *window)();
     }
 }
 
 void Begin()
 {
-    alarm(30);
+    if (Wishes().value(0).startsWith(u"room:")) {
+        LimitRoom(Wishes().takeFirst().section(u':', 1)); // for the start, too
+    }
     QTimer::singleShot(0, qApp, &Step);
 }
 

@@ -1,4 +1,9 @@
-# What the scripts share that work the program from outside. For sourcing, with $build and $work set.
+# What the scripts share that work the program from outside. For sourcing, with the build's folder as first
+# argument: $work is a folder that goes at the end, as do the processes $started.
+build=$(readlink -f "$1")
+work=$(mktemp -d) && chmod 755 "$work"
+trap 'kill "${started[@]}" 2>/dev/null; chmod -R u+w "$work"; rm -rf -- "$work"' EXIT
+started=()
 counts=' 5 2 1 2 ' # played, won, drawn and lost of the furnished scores
 
 scores_of() { # FILE: the counts of a line that is scrambled by a key, two digits a letter
@@ -27,9 +32,18 @@ write_files() { # FOLDER: every file of a player, and settings for comparison
 # play FOLDER HAND [COMMAND...]: what the program does, worked by the hand and started by the command,
 # and how it ends. It goes to FOLDER.told and .err.
 play() {
-    (cd "${from:-$1}" && HAND=$2 exec env HOME="${home-$work}" QT_QPA_PLATFORM="${screen-offscreen}" \
-        QT_LOGGING_RULES='*=false' DISK_FOLDER="$1" DISK_LOG="$1.ops" \
-        LD_PRELOAD="${preload:-}${hand_library:-$build/tests/outside/liboutside_hand.so}" "${@:3}" "$1/tessarine") >"$1.told" 2>"$1.err"
+    (
+        set -o pipefail
+        (cd "${from:-$1}" && HAND=$2 exec timeout 30 env HOME="${home-$work}" QT_QPA_PLATFORM="${screen-offscreen}" QT_LOGGING_RULES='*=false' \
+            LD_PRELOAD="${preload:-}${hand_library:-$build/tests/outside/liboutside_hand.so}" "${@:3}" "$1/tessarine") 2>"$1.err" | cat >"$1.told"
+    )
+}
+
+display() { # WIDTHxHEIGHT: a display with nobody on it
+    local number
+    number=$(mktemp -u "$work/XXXX") && mkfifo "$number"
+    Xvfb -displayfd 5 -screen 0 "$1x24" -nolisten tcp -noreset >/dev/null 2>&1 5<>"$number" & started+=($!)
+    read -r number <"$number" && export DISPLAY=:$number
 }
 
 is_game() { [ "$(tr -d '\r' <"$1" | sort -u | grep -cE '^[0-4][0-9]$')" = 50 ] && [ "$(wc -c <"$1")" = 200 ]; }

@@ -1,46 +1,39 @@
 #!/usr/bin/env bash
 # The program's window under window managers of all kinds: one that floats, one that tiles, one that
-# refuses every request, none; and between screens of different scales. Prints a line each.
+# refuses every request, none; and between screens of different scales. Each on a display of its own, all
+# at the same time. Prints a line each.
 #   managers.sh BUILD-FOLDER [KIND...]
 set -u
-build=$(readlink -f "$1")
+. "$(dirname "$(readlink -f "$0")")/helpers.sh"
 shift
-work=$(mktemp -d)
-started=()
-trap 'kill "${started[@]}" 2>/dev/null; rm -rf -- "$work"' EXIT
 
 size() { echo "xdotool windowsize \$W $1 $2"; }
-there_and_back() { # TIMES
+there_and_back() {
     size 264 514 && echo remember
-    for ((i = 0; i < $1; ++i)); do size $((300 + i * 7 % 500)) $((500 + i % 30)); size 264 514; done
+    for i in {1..100}; do size $((300 + i * 7 % 500)) $((500 + i % 30)); size 264 514; done
 }
 storm() { # a hundred sizes without a pause
     printf 'xdotool '
-    for ((i = 0; i < 100; ++i)); do printf 'windowsize $W %d %d ' $((RANDOM % 1200 + 1)) $((RANDOM % 1000 + 1)); done
-    echo
+    for _ in {1..100}; do printf 'windowsize $W %d %d ' $((RANDOM % 1200 + 1)) $((RANDOM % 1000 + 1)); done
 }
 states() {
     for state in maximized_vert,maximized_horz maximized_horz maximized_vert fullscreen; do
-        echo "wmctrl -i -r \$W -b add,$state" && storm && echo "wmctrl -i -r \$W -b remove,$state"
+        printf '%s\n' "wmctrl -i -r \$W -b add,$state" "$(storm)" "wmctrl -i -r \$W -b remove,$state"
     done
-    echo 'xdotool windowminimize $W sleep 0.2' && storm && echo 'xdotool windowmap $W' && storm
-    echo "$(storm) windowminimize \$W sleep 0.2" && echo 'xdotool windowmap $W'
+    printf '%s\n' 'xdotool windowminimize $W sleep 0.2' "$(storm)" 'xdotool windowmap $W' \
+        "$(storm) windowminimize \$W sleep 0.2" 'xdotool windowmap $W'
 }
-on_display() { # COMMANDS WINDOW-MANAGER...
-    local number
-    : >"$work/number"
-    Xvfb -displayfd 5 -screen 0 1280x1024x24 -nolisten tcp -noreset >/dev/null 2>&1 5>"$work/number" & started+=($!)
-    until number=$(cat "$work/number") && [ -n "$number" ]; do sleep 0.05; done
-    export DISPLAY=:$number
-    if [ $# -gt 1 ]; then "${@:2}" >"$work/manager" 2>&1 & started+=($!); sleep 1.5; fi
-    QT_QPA_PLATFORM=xcb "$build/tests/outside/window_storm" < <($1)
+# managed WINDOW-MANAGER...: a display with that on it, and what comes over its window.
+managed() {
+    display 1280x1024
+    if [ $# -gt 0 ]; then "$@" >"$work/$1.said" 2>&1 & started+=($!); sleep 1.5; fi
+    QT_QPA_PLATFORM=xcb "$build/tests/outside/window_storm" < <(there_and_back; storm; echo; states; storm; echo)
 }
-all() { there_and_back 100; storm; states; storm; }
 
-floats() { on_display all openbox; }
-tiles() { printf 'font pango:monospace 8\n' >"$work/i3" && on_display all i3 -c "$work/i3"; }
-refuses() { on_display all ratpoison; }
-none() { on_display all; }
+floats() { managed openbox; }
+tiles() { printf 'font pango:monospace 8\n' >"$work/i3" && managed i3 -c "$work/i3"; }
+refuses() { managed ratpoison; }
+none() { managed; }
 scales() { # the factor changes while the program runs
     cat >"$work/screens" <<END
 {"screens": [{"name": "a", "x": 0, "y": 0, "width": 1200, "height": 900, "dpr": 1},
@@ -48,14 +41,17 @@ scales() { # the factor changes while the program runs
              {"name": "c", "x": 3600, "y": 0, "width": 1800, "height": 1350, "dpr": 1.5}]}
 END
     for i in {1..50}; do printf 'screen %d\n' 1 2 0; [ "$i" != 1 ] || echo remember; done |
-        (cat; echo 'as remembered') |
+        (cat && echo 'as remembered') |
         QT_QPA_PLATFORM=offscreen:configfile=$work/screens QT_LOGGING_RULES='*=false' "$build/tests/outside/window_storm"
 }
 
-bad=0
-for kind in "${@:-floats tiles refuses none scales}"; do
-    for kind in $kind; do
-        if "$kind" >"$work/out" 2>&1; then echo "ok     $kind $(tail -n 1 "$work/out")"; else ((++bad)); echo "WRONG  $kind" && cat "$work/out"; fi
-    done
+[ $# -gt 0 ] || set -- floats tiles refuses none scales
+for kind in "$@"; do
+    # Its own shell ends what it started.
+    (trap 'kill "${started[@]}" 2>/dev/null' EXIT && "$kind" && touch "$work/$kind.good") >"$work/$kind" 2>&1 &
 done
-[ "$bad" = 0 ]
+wait
+for kind in "$@"; do
+    if [ -e "$work/$kind.good" ]; then echo "ok     $kind $(grep 'commands,' "$work/$kind")"; else echo "WRONG  $kind" && cat "$work/$kind"; fi
+done
+[ "$(find "$work" -name '*.good' | wc -l)" = $# ]
