@@ -174,7 +174,7 @@ TEST(PlacingTest, AWindowIsWhollyOnTheScreenOfItsOwner)
     EXPECT_EQ(placing::Centred(box, second, second), QPoint(1900, 531));
     EXPECT_EQ(placing::Centred(box, {1500, 100, 266, 539}, screen), QPoint(1200, 300));
     EXPECT_EQ(placing::Centred(box, {1500, 950, 266, 539}, second), QPoint(1600, 862));
-    EXPECT_EQ(placing::Centred({1100, 900}, second, second), second.topLeft());
+    EXPECT_EQ(placing::Centred({1100, 900}, second, second), QPoint(1550, 200)); // its middle and top
     EXPECT_EQ(placing::Beside(box, {900, 100, 300, 500}, screen), QPoint(1200, 100));
     EXPECT_EQ(placing::Beside(box, {901, 900, 300, 500}, screen), QPoint(501, 862));
     EXPECT_EQ(placing::Beside(box, {300, 0, 1000, 900}, screen), QPoint(600, 381));
