@@ -16,16 +16,17 @@ constexpr std::size_t Millisecond = 44; ///< in samples
 /// Checks the head of a wave file and takes the samples out of it.
 std::vector<std::int16_t> ReadSound(const std::string& bytes)
 {
-    constexpr std::size_t head = 44;
     // One channel of plain samples, 44100 a second, 88200 bytes a second, 2 bytes or 16 bits a sample.
-    constexpr auto format = "WAVEfmt \x10\0\0\0\1\0\1\0\x44\xAC\0\0\x88\x58\1\0\2\0\x10\0data"sv;
-    const auto lengthAfter = [&](std::size_t place) { // as the head tells it, the low byte first
-        const auto length = static_cast<std::uint32_t>(bytes.size() - place);
-        return std::string(reinterpret_cast<const char*>(&length), sizeof length);
-    };
-    EXPECT_EQ(bytes.substr(0, head), "RIFF" + lengthAfter(8) + std::string(format) + lengthAfter(head));
-    std::vector<std::int16_t> samples((bytes.size() - head) / 2);
-    std::memcpy(samples.data(), &bytes.at(head), 2 * samples.size());
+    constexpr auto head =
+        "RIFF\0\0\0\0WAVEfmt \x10\0\0\0\1\0\1\0\x44\xAC\0\0\x88\x58\1\0\2\0\x10\0data\0\0\0\0"sv;
+    std::string expected(head);
+    for (const std::size_t place : {4U, 40U}) { // lengths of what follows them, the low byte first
+        const auto length = static_cast<std::uint32_t>(bytes.size() - place - 4);
+        std::memcpy(&expected[place], &length, sizeof length);
+    }
+    EXPECT_EQ(bytes.substr(0, head.size()), expected);
+    std::vector<std::int16_t> samples((bytes.size() - head.size()) / 2);
+    std::memcpy(samples.data(), &bytes.at(head.size()), 2 * samples.size());
     return samples;
 }
 

@@ -187,21 +187,18 @@ TEST_F(WindowTest, AWaitEndsWithTheEventThatItHandledAndInsideOneOthersSleep)
     int sleeps = 0;
     QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, &far,
                      [&] { ++sleeps; });
-    const std::vector<std::function<void()>> works = {
-        [] {},
-        [] {
+    for (const int milliseconds : {0, 100, 200}) {
+        bool over = milliseconds == 0;
+        const auto work = [&] {
             QEventLoop loop;
-            QTimer::singleShot(100, &loop, &QEventLoop::quit);
-            loop.exec();
-        },
-        [this] {
-            bool over = false;
-            QTimer::singleShot(100, qApp, [&] { over = true; });
+            QTimer::singleShot(milliseconds, &loop, [&] {
+                over = true;
+                loop.quit();
+            });
             while (!over) {
-                platform.WaitForEvent();
+                milliseconds == 100 ? static_cast<void>(loop.exec()) : platform.WaitForEvent();
             }
-        }};
-    for (const auto& work : works) {
+        };
         QElapsedTimer clock;
         clock.start();
         QMetaObject::invokeMethod(qApp, work, Qt::QueuedConnection);
