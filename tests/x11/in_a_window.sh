@@ -5,10 +5,11 @@
 # TESSARINE_RUNNER names what starts the program for Windows, where FOLDER holds that.
 set -u
 here=$(dirname "$(readlink -f "$0")")
+. "$here/../outside/helpers.sh" "$2"
 test_case=$1 out=${!#}/$1
 limit=20 # seconds for anything that the program should do soon
 scale=1  # screen pixels to a logical pixel
-window='' pid='' box='' started=() runner=(${TESSARINE_RUNNER:+"$TESSARINE_RUNNER"})
+window='' pid='' box='' runner=(${TESSARINE_RUNNER:+"$TESSARINE_RUNNER"})
 
 fail() {
     printf '%s\n' "FAILED: $1" "${@:2}" "${box:+the last box was: $(xdotool getwindowname "$box" 2>&1)}"
@@ -24,17 +25,13 @@ soon() { # WHAT COMMAND...: waits until the command holds
 }
 
 open_display() { # a display of our own with a window manager on it
-    local number
     type Xvfb xdotool xwininfo xwd convert import >/dev/null || exit 77 # skipped
-    mkfifo "$home/number"
-    Xvfb -displayfd 5 -screen 0 1280x1400x24 -noreset -nolisten tcp 5<>"$home/number" >"$home/xvfb" 2>&1 & started+=($!)
-    read -r -t "$limit" number <>"$home/number" || fail "the display did not start"
-    export DISPLAY=:$number
+    display 1280x1400
     manage_windows
 }
 manage_windows() {
     type openbox wmctrl >/dev/null || exit 77
-    openbox >"$home/openbox" 2>&1 & started+=($!)
+    openbox >"$work/openbox" 2>&1 & started+=($!)
     soon "a window manager" wmctrl -m >/dev/null 2>&1
     sleep 0.5 # it says that it is there before it is, and may sleep over a window that comes meanwhile
 }
@@ -43,9 +40,9 @@ windows_of_program() { xdotool search --onlyvisible --pid "$pid" --name . 2>/dev
 main_window_is_open() { window=$(windows_of_program | head -n 1) && [ -n "$window" ]; }
 box_is_open() { box=$(windows_of_program | grep -vx "${window:-none}" | head -n 1) && [ -n "$box" ]; }
 program_is_gone() { ! kill -0 "$pid" 2>/dev/null; }
-start_program() { # [box], where something else is told first
+start_program() {
     (cd "$program" && exec "${runner[@]}" ./tessarine${TESSARINE_RUNNER:+.exe}) >"$out/program.log" 2>&1 & pid=$! && started+=("$pid")
-    [ "${1:-}" != box ] && [ -f "$program/tessarine.cfg" ] || answer 1 1 # on the first day a notice says so
+    [ -f "$program/tessarine.cfg" ] || answer 1 1 # on the first day a notice says so
     soon "the main window" main_window_is_open
 }
 ends_well() { soon "the program ends" program_is_gone && { wait "$pid" || fail "it ended with code $?"; }; }
@@ -116,16 +113,7 @@ see() { # STACK=CARDS... what changes on the table; then it must show all of it
 
 by_ear() { :; } # what a listener must have been told by then, where there is one
 
-# Whether played, won, drawn and lost of all runs are these. They stand behind a date of nine letters,
-# each letter in two digits after meeting one of the key.
-counts_are() {
-    local text=" $1 " key=HMIRT expected='' i code
-    for ((i = 0; i < ${#text}; ++i)); do
-        printf -v code '%d ^ %d' "'${text:i:1}" "'${key:i % 5:1}"
-        printf -v expected '%s%2X' "$expected" $((code))
-    done
-    [[ $(cut -c 19- "$program/tessarine.sco") == "$expected"* ]]
-}
+counts_are() { [ "$(scores_of "$program/tessarine.sco")" = " $1 " ]; } # played, won, drawn and lost of all runs
 is_new_deal() { [ "$(wc -c <"$deal")" -eq 200 ] && ! cmp -s "$deal" "$out/last_deal"; } 2>/dev/null
 
 # A deal that a hand wins, and the hand's moves, each with what it changes on the table.
@@ -149,12 +137,10 @@ press 210 114 3 1 0=D 6=..D;press 210 106 3 1 6=.D;press 178 147 3 1 5=S;press 1
 press 210 97 3 1 0=DD 6=D;press 210 89 3 1 6=...;press 18 114 3 1 win'
 
 game() {
-    local step deal=$program/tempgame.txt format settings
+    local step deal=$program/tempgame.txt format
     open_display
     format=$(places)
-    printf -v settings '%s\r\n' ' 7             16777215      0 ' ' 1 ' ' 200 ' ' 51200 ' ' 13107200 ' ' 51400 ' \
-        ' 13107400 ' default.col arial
-    printf 'yesterday\r\n%s' "$settings" >"$program/tessarine.cfg"
+    write_files "$program" && rm "$deal"
     start_program
     soon "the first deal" is_new_deal
     printf '%02d\r\n' "${cards[@]}" | tee "$out/last_deal" >"$deal"
@@ -164,22 +150,22 @@ game() {
         [ "${step[5]:-}" = win ] || see "${step[@]:5}"
     done < <(tr ';' '\n' <<<"$steps")
     soon "the message of the win" box_shows_buttons 1
-    counts_are "0 0 0 0" || fail "the win is counted before its message is answered"
+    counts_are "5 2 1 2" || fail "the win is counted before its message is answered"
     answer 1 1
     soon "the next deal" is_new_deal
-    soon "one game is counted as won" counts_are "1 1 0 0"
+    soon "one game is counted as won" counts_are "6 3 1 2"
     cp "$deal" "$out/last_deal"
     command_button 4 && answer 2 2
-    if is_new_deal || ! counts_are "1 1 0 0"; then fail "No to a new game deals one"; fi
+    if is_new_deal || ! counts_are "6 3 1 2"; then fail "No to a new game deals one"; fi
     command_button 4 && answer 1 2
     soon "a new game" is_new_deal
-    soon "one game is counted as lost" counts_are "2 1 0 1"
+    soon "one game is counted as lost" counts_are "7 3 1 3"
     command_button 1 && answer 1 1
     cmp "$deal" "$program/savedgame;01.gam" || fail "another deal is saved"
     command_button 8 && answer 1 2
     ends_well
     cmp <(sed -E '1s/^([0-9]{2}-){2}[0-9]{4} ([0-9]{2}:){2}[0-9]{2}\r$/now\r/' "$program/tessarine.cfg") \
-        <(printf 'now\r\n%s' "$settings") || fail "the configuration is not written as it was read"
+        <(printf 'now\r\n' && cat "$work/settings") || fail "the configuration is not written as it was read"
 }
 
 # The same under the reference compositor of Wayland, nested in the display: it gets the mouse, and says
@@ -188,9 +174,9 @@ wayland() { # CASE...
     type weston weston-debug >/dev/null || exit 77
     manage_windows() {
         printf '[shell]\n%s\n' panel-position=none locking=false startup-animation=none close-animation=none \
-            animation=none background-color=0xff102030 >"$home/weston.ini"
+            animation=none background-color=0xff102030 >"$work/weston.ini"
         weston --debug --backend=x11-backend.so --use-pixman --scale="$scale" --width=$((1280 / scale)) \
-            --height=$((1400 / scale)) --idle-time=0 -S nested -c "$home/weston.ini" >"$out/weston.log" 2>&1 & started+=($!)
+            --height=$((1400 / scale)) --idle-time=0 -S nested -c "$work/weston.ini" >"$out/weston.log" 2>&1 & started+=($!)
         export WAYLAND_DISPLAY=nested XDG_SESSION_TYPE=wayland
         runner=(env -u DISPLAY)
         soon "the compositor" eval "weston-debug scene-graph 2>/dev/null | grep -q background"
@@ -264,9 +250,9 @@ game_by_ear() { # a reader on a bus of its own presses the buttons, and knows th
     local said=$out/heard name
     local row=('Load Saved Game' 'Save Game' Scores Options 'New Game' 'Restore current game' About Help Exit Undo)
     local ok=('' Ok) yes_or_no=('' Yes No)
-    dbus-daemon --session --nofork --print-address >"$home/bus" 2>"$out/bus.log" & started+=($!)
-    soon "a bus" test -s "$home/bus"
-    DBUS_SESSION_BUS_ADDRESS=$(<"$home/bus") && export DBUS_SESSION_BUS_ADDRESS
+    dbus-daemon --session --nofork --print-address >"$work/bus" 2>"$out/bus.log" & started+=($!)
+    soon "a bus" test -s "$work/bus"
+    DBUS_SESSION_BUS_ADDRESS=$(<"$work/bus") && export DBUS_SESSION_BUS_ADDRESS
     "$here/reader.py" listen "$said" "${cards[@]}" 2>"$out/reader.log" & started+=($!)
     soon "a listener" test -s "$said"
     by_ear() { soon "the listener knows it: $(<"$said")" table_is_known; }
@@ -286,22 +272,6 @@ game_by_ear() { # a reader on a bus of its own presses the buttons, and knows th
         reader_presses "$name"
     done
     close_window
-}
-
-read_only() { # where nothing can be written the game goes on, and says what it could not do
-    local before after # and the settings are nonsense
-    printf '%s\n' x x x x x x x x x x default.col arial >"$program/tessarine.cfg"
-    chmod -R a-w "$program" && touch "$program/mine" 2>/dev/null && rm "$program/mine" && chattr +i "$program" # root
-    ! touch "$program/mine" 2>/dev/null || exit 77
-    before=$(sha256sum "$program"/*)
-    open_display && start_program box # the deal is not on the disk
-    command_button 5 && answer 1 2 && answer 1 1 # the deal that can't be restored
-    command_button 1 && answer 1 1               # nor saved
-    command_button 4 && answer 1 2 && answer 1 1 # a new one is dealt all the same
-    command_button 8 && answer 1 2 && answer 1 1 # the options are not kept
-    ends_well
-    after=$(sha256sum "$program"/*)
-    [ "$before" = "$after" ] || fail "the folder holds something else: $after"
 }
 
 window() {
@@ -362,9 +332,8 @@ no_display() { # without a display, or with one that isn't there, one sentence s
 
 [ "$(type -t "$test_case")" = function ] || fail "there is no case $test_case"
 unset QT_QPA_PLATFORM WAYLAND_DISPLAY QT_SCALE_FACTOR DISPLAY
-rm -rf -- "$out" && mkdir -p "$out" && home=$(mktemp -d) || exit 1
-trap 'kill "${started[@]}" 2>/dev/null; wait; chattr -i "$program" 2>/dev/null; chmod -R u+w "$home"; rm -rf -- "$home"' EXIT
-program="$home/Пасьянс für ひとり" # as a player has it on the first day, and no other player's settings
+rm -rf -- "$out" && mkdir -p "$out"
+program="$work/Пасьянс für ひとり" # as a player has it on the first day, and no other player's settings
 cp -r "$2" "$program" && rm -f "$program"/tessarine.cfg "$program"/*.sco "$program"/tempgame.txt
-export HOME=$home XDG_CONFIG_HOME=$home XDG_RUNTIME_DIR=$home
+export HOME=$work XDG_CONFIG_HOME=$work XDG_RUNTIME_DIR=$work
 "$test_case"
