@@ -2,7 +2,6 @@
 #include "desktop/text.h"
 #include "runtime/files.h"
 #include "stage.h"
-#include "store/score_line.h"
 
 #include <filesystem>
 
@@ -66,9 +65,6 @@ TEST(DesktopClock, NamesTheMonthsWithThreeLettersInEveryLanguage)
             EXPECT_TRUE(letters.size() > 0 && letters.size() <= 3) << name;
             EXPECT_TRUE(std::ranges::none_of(letters, [](uint one) { return QChar::isSpace(one); }))
                 << name;
-            const ScoreLine line{ScoreDate({2008, month, 9, 0, 0, 0, name}), {"7", "4", "0", "3"}};
-            const auto read = ScoreLine::Read(line.Text());
-            EXPECT_TRUE(read && read->counts == line.counts) << name;
         }
     }
 }

@@ -3,29 +3,6 @@
 
 #include <QDir>
 
-namespace
-{
-
-/// A box that nobody closes would stand there for ever: it ends the test program with its name.
-class Watch : public QObject
-{
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override
-    {
-        auto* const box = qobject_cast<QWidget*>(watched);
-        if (event->type() == QEvent::Show && box != nullptr && box->isWindow() && box->isModal()) {
-            QTimer::singleShot(10'000, box, [box] {
-                if (box->isVisible() && box->isModal()) {
-                    qFatal("The box \"%s\" stays open", qPrintable(box->windowTitle()));
-                }
-            });
-        }
-        return false;
-    }
-};
-
-} // namespace
-
 int main(int argc, char* argv[])
 {
     // Windows on screens that nobody sees, with everything else as on real ones.
@@ -39,7 +16,5 @@ int main(int argc, char* argv[])
     testing::InitGoogleTest(&argc, argv);
     const QApplication application(argc, argv);
     QGuiApplication::setQuitOnLastWindowClosed(false);
-    Watch watch;
-    qApp->installEventFilter(&watch);
     return RUN_ALL_TESTS();
 }

@@ -48,7 +48,6 @@ TEST_F(WidgetsTest, AListShowsAsChosenWhatItsControlSaysAndNothingElse)
     };
     const auto click = [&](QPoint at, auto button) { return after([&] { Click(list, at, button); }); };
     const auto type = [&](Qt::Key key) { return after([&] { Type(form, key); }); };
-    EXPECT_EQ(after([] {}), "");
     EXPECT_EQ(click(row(5) + QPoint(0, 40), Qt::RightButton), "2 ") << "on nothing";
     EXPECT_EQ(after([&] { Press(list, row(2)); }), "");
     EXPECT_EQ(after([&] { Release(list, {-20, 20}); }), "") << "not over the list";
@@ -195,8 +194,6 @@ TEST_F(WidgetsTest, APageIsLoadedAnewAndEveryVisitShows)
     const int end = bar.value();
     EXPECT_GT(end, 500);
     EXPECT_EQ(browser.Location(), (Address{help.Tag, "end"}));
-    QTest::keyClick(&text, Qt::Key_Left, Qt::AltModifier);
-    EXPECT_EQ(bar.value(), end) << "the program's own buttons go back";
     browser.GoBack();
     Events();
     EXPECT_EQ(bar.value(), 0);
@@ -206,7 +203,8 @@ TEST_F(WidgetsTest, APageIsLoadedAnewAndEveryVisitShows)
     Events();
     EXPECT_EQ(bar.value(), end) << "by keyboard";
 
-    // A link that brings the page to the front is followed, however the load falls between.
+    // A link that brings the page to the front is followed, be the page loaded anew before the press or
+    // between press and release.
     for (const int turn : {0, 1, 2}) {
         write("after" + std::to_string(turn));
         browser.UserFollows({help.Tag, "end"});
@@ -221,9 +219,7 @@ TEST_F(WidgetsTest, APageIsLoadedAnewAndEveryVisitShows)
             EXPECT_EQ(bar.value(), 0);
         }
         Press(browser, place);
-        if (turn == 2) {
-            Events();
-        }
+        turn == 2 ? Events() : void();
         Release(browser, place);
         help.FeedActivation();
         Events();
