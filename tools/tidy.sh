@@ -58,6 +58,10 @@ export -f look
 export build work
 
 sources >"$work/sources"
+# The largest groups first, so that no core waits for another at the end.
 for folder in "${@:-}"; do
-    cut -f 1 "$work/sources" | grep -E "^$folder" | sort -u
-done | xargs -P "$(nproc)" -I{} bash -c 'look "$1"' look {}
+    grep -E "^$folder" "$work/sources"
+done | while IFS=$'\t' read -r group _ source; do
+    printf '%s\t%s\n' "$(wc -l <"$source")" "$group"
+done | awk -F '\t' '{ lines[$2] += $1 } END { for (group in lines) print lines[group] "\t" group }' |
+    sort -rn | cut -f 2 | xargs -P "$(nproc)" -I{} bash -c 'look "$1"' look {}
