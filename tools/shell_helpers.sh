@@ -13,6 +13,9 @@ test_packages=(libgtest-dev libbenchmark-dev clang clang-format clang-tidy libcl
                python3-gi gir1.2-atspi-2.0 at-spi2-core dbus-daemon weston
                faketime strace i3-wm ratpoison)
 
+# What only the stages checkers and coverage of ./test need.
+checker_packages=(valgrind cppcheck gcovr)
+
 say() { printf '%s\n' "$*"; }
 
 fail() {

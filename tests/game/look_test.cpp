@@ -82,7 +82,7 @@ session: 0 1215 885 900 255 Courier New 9; Won total: 0 2565 885 900 255 Courier
 session: 0 1215 1170 900 255 Courier New 9; Drawn total: 0 2565 1170 900 255 Courier New 9; Lost this
 session: 0 1215 1455 900 255 Courier New 9; Lost total: 0 2565 1455 900 255 Courier New 9; Last Update:
 14Mar2008 90 1890 3465 345 Courier New 9 on 8000000f; Close 750 2340 1095 405; Clear 1845 2340 1095
-405; ]; ]; ]; Tessarine Options 9120 4155; Colour Scheme 60 60 4335 3210 ~ The colours of the table,
+405; ]; ]; ]; Tessarine Options 9120 4155 beside; Colour Scheme 60 60 4335 3210 ~ The colours of the table,
 the buttons and this dialog; [; Background colour 150 270 2025 1635 on ffffff ~ Background colour of a
 new scheme: View shows it; [; Background colour: Red 1050 25 250 1126 by 1 or 1 on 8000000f ~ Red: 120;
 Background colour: Green 1395 25 250 1126 by 1 or 1 on 8000000f ~ Green: 170; Background colour: Blue
@@ -110,7 +110,7 @@ take the colour; [; Colour 1, suit S = Colour 1 120 270 1800 210 on 0; Colour 2,
 375 b ~ Give the cards five plain colours and the font Arial, and apply that; ]; Font 6840 60 2235 4065
 ~ The font of the numbers, with a sample; [; Fonts 180 300 1845 2370 Courier New 8.25 ~ Pick a font,
 then press Apply; Sample of the font 750 2880 645 585 arial 24 bold; Colour of the numbers = Colour 210
-3630 1800 210 on ffffff; ]; Tessarine Help 7185 5625 sizable; Back 60 30 1095 375 b; Forward 1155 30
+3630 1800 210 on ffffff; ]; Tessarine Help 7185 5625 sizable beside; Back 60 30 1095 375 b; Forward 1155 30
 1095 375 b; Exit 2244 30 1095 375 b; Help page 60 480 7125 5145 on 8000000f; About Tessarine 6135 3120;
 Tessarine - March 2008 A variant of Halvard card game Uses a numbers deck instead of standard card deck
 30 30 5505 2700; - 5616 96 480 432 on 8000000f; Version 1.0 30 2760 5520 315 b; OK 5610 2745 450 330
@@ -129,7 +129,8 @@ on 8000000f hidden; - 90 90 480 480 on 8000000f hidden; - 90 90 480 480 on 80000
         form->Show();
         std::ostringstream window;
         window << form->Caption() << ' ' << form->Width() << ' ' << form->Height()
-               << (form->Sizable ? " sizable" : "") << (form->HasCloseBox ? "" : " no close box");
+               << (form->Sizable ? " sizable" : "") << (form->StandsBeside ? " beside" : "")
+               << (form->HasCloseBox ? "" : " no close box");
         look.push_back(window.str());
         Look(*form, world.form.shared, look);
     }
@@ -139,6 +140,18 @@ on 8000000f hidden; - 90 90 480 480 on 8000000f hidden; - 90 90 480 480 on 80000
         std::ranges::replace(wanted, '\n', ' ');
         EXPECT_EQ(wanted.substr(1), shown);
     }
+}
+
+/// A number that is another when a point of the drawing is.
+double Ink(const Picture& picture)
+{
+    double ink = 0;
+    for (const Shape& shape : picture.shapes) {
+        for (std::size_t i = 0; i < shape.points.size(); ++i) {
+            ink += static_cast<double>(i + 1) * (shape.points[i].x + 3 * shape.points[i].y);
+        }
+    }
+    return ink;
 }
 
 /// The icons of the row, from the left, and what a press does: sounds, boxes, forms.
@@ -156,6 +169,7 @@ TEST(LookTest, EveryCommandHasItsIconAndItsEffect)
         {&Form1::cmdexit, "Question: Exit? _menu.wav"},
         {&Form1::cmdundo, " _undo.wav"}};
     std::set<const Picture*> icons;
+    double ink = 0; // of all drawings; who changes one looks at it, and notes the number here
     for (const auto& [button, effect] : commands) {
         GameWorld world({.columns = {{9}}, .stock = {38, 39}});
         world.RightClick(39);
@@ -173,9 +187,7 @@ TEST(LookTest, EveryCommandHasItsIconAndItsEffect)
         });
         const Picture* icon = (world.form.*button).Shown();
         ASSERT_TRUE(icon != nullptr && !icon->shapes.empty() && icons.insert(icon).second) << effect;
-        for (const Shape& shape : icon->shapes) {
-            EXPECT_GE(shape.points.size(), 2U) << effect;
-        }
+        ink += Ink(*icon);
         world.Press(world.form.*button);
         for (const std::string& sound : world.TakeSounds()) {
             seen += ' ' + sound;
@@ -190,6 +202,11 @@ TEST(LookTest, EveryCommandHasItsIconAndItsEffect)
         seen += world.form.Score1.Visible() ? " scores" : "";
         EXPECT_EQ(seen, effect);
     }
+    const GameWorld world;
+    for (const Image& icon : world.form.msgForm.icons) {
+        ink += icon.Shown() == nullptr ? 0 : Ink(*icon.Shown());
+    }
+    EXPECT_NEAR(ink, 64206.9, 0.001);
 }
 
 } // namespace

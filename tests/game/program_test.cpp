@@ -51,7 +51,7 @@ TEST(ProgramTest, AFirstRunTellsWhatItMissesAndWritesItsFiles)
                                                     "arial\r\n");
     EXPECT_EQ(platform.files["/app/tempgame.txt"].size(), 200U);
     EXPECT_TRUE(platform.files.contains("/run/tessarine.sco"));
-    EXPECT_NE(form.shared.Background(), form.shared.Button()) << "a usable table all the same";
+    EXPECT_EQ(form.shared.Background(), Rgb(164, 190, 176)) << "a usable table all the same";
     EXPECT_TRUE(form.IsShown());
 }
 
@@ -128,7 +128,8 @@ bool TryOut(const std::function<void(GameWorld&)>& command, int failing, bool fr
         EXPECT_TRUE(files[2].contains(path)) << path << " is lost by failure " << failing;
     }
     EXPECT_TRUE(files[2]["/app/all.col"] == files[1]["/app/all.col"] ||
-                world.platform.plainMessages.back().starts_with("Error in "));
+                world.platform.plainMessages.back() == "Error in adding Color Scheme:\r\nnew.col" ||
+                world.platform.plainMessages.back() == "Error in updating Color Scheme:\r\ndefault.col");
     EXPECT_EQ(world.Fault(), "");
     EXPECT_FALSE(world.platform.busy);
     if (!world.platform.ended) { // the disk works again: what is told now, and was told before, is true

@@ -66,7 +66,11 @@ TEST_F(MessageBox, ShowsTheButtonsAndIconsOfItsStyleAndLetsEscapeChangeNothing)
         {"vbhappy+vbtrash+vbcustom", "Ok* 5 6 10 ", "Ok", AnswerOk},
         {"+vbnonsense", "Ok* ", "Ok", AnswerOk},
         {"vbnormal", "Ok* ", "Ok", 0},
-        {"vbretry", "Retry ", "Retry", 4},
+        {"vbyes+vbcancel+vbprint+vblighton", "Yes Cancel* 7 8 ", "Yes", AnswerYes},
+        {"vbokcancel+vbexclamation", "Ok Cancel* 1 ", "Ok", AnswerOk},
+        {"vbabort+vbignore+vbokonly", "Abort Ignore Ok ", "Ignore", 5},
+        {"vbretrycancel", "Retry Cancel* ", "Cancel", 2},
+        {"vbretry+vberror+vbcritical", "Retry 3 4 ", "Retry", 4},
         {"vbabortretryignore", "Abort Retry Ignore ", "Abort", 3},
         {"vbno+vbno", "No* No ", "No", AnswerNo},
         {"vbyesnocancel+vbok", "Yes No Cancel* ", "Cancel", 2}}; // there is no fourth

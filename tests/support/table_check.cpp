@@ -147,6 +147,8 @@ private:
             Expect(label.Width() == now_.CardWidth && label.Height() == now_.CardHeight, "another size",
                    item);
             Expect(label.Font().size == points && label.IsOpaque(), "another look", item);
+            Expect(item >= StockPlace || label.Caption().empty() || label.Font().name == now_.CardFont,
+                   "another font", item);
             const bool isBlank = item == StockPlace || label.Caption().empty();
             Expect(!isBlank || label.BackColor() == Item(60).BackColor(), "another colour", item);
             const bool isPileBase = item >= 55 && item < 60;
