@@ -147,7 +147,9 @@ private:
             Expect(label.Width() == now_.CardWidth && label.Height() == now_.CardHeight, "another size",
                    item);
             Expect(label.Font().size == points && label.IsOpaque(), "another look", item);
-            Expect(item >= StockPlace || label.Caption().empty() || label.Font().name == now_.CardFont,
+            // A new one is put on when the dialog that asks for it, and what it tells, is through.
+            const bool isWorn = label.Font().name == now_.CardFont;
+            Expect(item >= StockPlace || !IsUp(item) || isWorn || form_.AllForms().Modal() != nullptr,
                    "another font", item);
             const bool isBlank = item == StockPlace || label.Caption().empty();
             Expect(!isBlank || label.BackColor() == Item(60).BackColor(), "another colour", item);
