@@ -509,6 +509,7 @@ struct Model {
                     EXPECT_EQ(world.Place(card), (Point{static_cast<Twips>(LeftOf(stack)), top}))
                         << card;
                     EXPECT_EQ(shown.Caption().empty(), !isOpen) << card;
+                    EXPECT_TRUE(!isOpen || shown.Font().name == "arial") << "as it is stored";
                     EXPECT_EQ(shown.BackColor(), isOpen ? world.form.shared.SuitColor.at(
                                                               static_cast<std::size_t>(card) / 10)
                                                         : world.form.shared.Button())

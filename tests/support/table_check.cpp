@@ -147,10 +147,6 @@ private:
             Expect(label.Width() == now_.CardWidth && label.Height() == now_.CardHeight, "another size",
                    item);
             Expect(label.Font().size == points && label.IsOpaque(), "another look", item);
-            // A new one is put on when the dialog that asks for it, and what it tells, is through.
-            const bool isWorn = label.Font().name == now_.CardFont;
-            Expect(item >= StockPlace || !IsUp(item) || isWorn || form_.AllForms().Modal() != nullptr,
-                   "another font", item);
             const bool isBlank = item == StockPlace || label.Caption().empty();
             Expect(!isBlank || label.BackColor() == Item(60).BackColor(), "another colour", item);
             const bool isPileBase = item >= 55 && item < 60;
