@@ -8,19 +8,19 @@ set -u
 . "$(dirname "$(readlink -f "$0")")/helpers.sh"
 shift
 
-# What is pressed. The last word of a row is what the counts may become.
-commands='first_day;New Game;1 0 0 1
-start;New Game;6 2 1 3
-new;New Game;6 2 1 3
-save;Save Game;
-load;Load Saved Game|file:old.gam;
-restore;Restore current game;
-clear;Scores|Clear;0 0 0 0
-add;Options|Add|text:foo;
-replace;Options|row:linen|Replace;
-delete;Options|row:linen|Delete;
-apply;Options|row:linen|Apply;
-exit;Exit;'
+# What is pressed.
+commands='first_day;New Game
+start;New Game
+new;New Game
+save;Save Game
+load;Load Saved Game|file:old.gam
+restore;Restore current game
+clear;Scores|Clear
+add;Options|Add|text:foo
+replace;Options|row:linen|Replace
+delete;Options|row:linen|Delete
+apply;Options|row:linen|Apply
+exit;Exit'
 
 ways_of() { # CALL BYTES: the errors, or how many bytes there is room for
     case $1 in
@@ -52,86 +52,79 @@ on_disk() {
         exec strace -D -y -o "$0.calls" -e trace=%file,%desc "${watched[@]}" "$@"' "$1" "${@:3}"
 }
 
+# same FILE OTHER: as far as they hold no date and no chance.
+same() {
+    [ -e "$1" ] || { [ ! -e "$2" ]; return; }
+    [ -e "$2" ] && [ "$(readlink "$1")" = "$(readlink "$2")" ] && case $1 in
+        *old.gam | *.col | *schemes | *.cox) cmp -s "$1" "$2" || { [[ $1 == */replace.* ]] && cmp -s <(other_schemes "$1") <(other_schemes "$2"); } ;;
+        *.gam | *.txt) is_game "$1" ;;
+        *.sco | *scores) [ "$(scores_of "$1")" = "$(scores_of "$2")" ] ;;
+        *.cfg) cmp -s <(tail -n +2 "$1") <(tail -n +2 "$2") || cmp -s <(tail -n +2 "$1") "$work/new_settings" ;; # begun anew
+        *) true ;;
+    esac
+}
 other_schemes() { sed '16,28d' "$1"; } # than the one that is replaced, by whatever colours were on show
 
-faults_of() { # FOLDER COMMAND NEW-COUNTS WAY: what is not as it should be
-    local folder=$1 path file now
-    for file in tempgame.txt old.gam tessarine.cfg tessarine.sco all.col; do
-        [ -e "$folder/$file" ] || [ "$2" = first_day ] || echo "$file is gone"
+faults_of() { # FOLDER COMMAND WAY: what is not as it was before, after the start or after the whole command
+    local file version versions=("$work/$2".{before,start,all})
+    find "$1" "${versions[@]}" ! -type d -printf '%P\n' | sort -u | while read -r file; do
+        for version in "${versions[@]}"; do
+            ! same "$1/$file" "$version/$file" || continue 2
+        done
+        [[ $3 == kill && $file == *.part ]] || echo "$file is neither old nor new: $(head -c 100 "$1/$file")"
     done
-    for path in "$folder"/* "$folder"/real/*; do
-        file=$(basename "$path")
-        case $file in
-            tessarine | real) ;;
-            *.part) [ "$4" = kill ] || echo "$file is left" ;;
-            old.gam) cmp "$path" "$work/whole/old.gam" ;;
-            tempgame.txt | savedgame*) is_game "$path" || echo "$file is no game" ;;
-            tessarine.cfg) # one that can't be read is begun anew
-                cmp -s <(tail -n +2 "$path") "$work/new_settings" || cmp <(tail -n +2 "$path") "$work/settings" ;;
-            all.col | schemes | newall.cox)
-                cmp -s "$path" "$build/tessarine/all.col" || cmp -s "$path" "$work/$2/all.col" ||
-                    { [ "$2" = replace ] && cmp <(other_schemes "$path") <(other_schemes "$build/tessarine/all.col"); } ||
-                    echo "$file has lost something" ;;
-            tessarine.sco | scores)
-                now=$(scores_of "$path")
-                [[ "$now" == "$counts" || "$now" == " $3 " || ("$2" == first_day && "$now" == " 0 0 0 0 ") ]] ||
-                    echo "$file counts$now" ;;
-            *) echo "$file is new" ;;
-        esac
+    sed -n 's/^box .*Game saved to file: \(.*[^ ]\) *$/\1/p' "$1.told" | while read -r file; do
+        cmp "$file" "$1/tempgame.txt" || echo "what was told is not true"
     done
-    [ "$2" = first_day ] || [ -L "$folder/tessarine.sco" ] || echo "the scores are no link any more"
-    [ -L "$folder/all.col" ] || echo "the schemes are no link any more"
-    sed -n 's/^box .*Game saved to file: \(.*[^ ]\) *$/\1/p' "$folder.told" | while read -r file; do
-        cmp "$file" "$folder/tempgame.txt" || echo "what was told is not true"
-    done
+    awk '/^openat.*part/ { lost = 0 } /^(write|fsync|close).*part.*INJECTED/ { lost = 1 }
+        /^rename/ && lost { print "it goes by what the disk did not take" }' "$1.calls"
 }
 
-one() { # COMMAND HAND NEW-COUNTS CALL AT WAY: prints what went wrong
-    local folder="$work/$1.$4.$5.$6" hand=$2 fate=() wanted=0 code before
-    case $6 in
-        kill) fate=(-e "inject=$4:signal=KILL:when=$5") wanted=137 ;;
-        E*) fate=(-e "inject=$4:error=$6:when=$5") ;;
-        *) hand="room:$6|$hand" && [[ $1 =~ start|first_day ]] || hand="About|$hand" ;; # not yet at the start
+one() { # COMMAND HAND CALL AT WAY: prints what went wrong
+    local folder="$work/$1.$3.$4.$5" hand=$2 fate=() wanted=0 code before
+    case $5 in
+        kill) fate=(-e "inject=$3:signal=KILL:when=$4") wanted=137 ;;
+        E*) fate=(-e "inject=$3:error=$5:when=$4") ;;
+        *) hand="room:$5|$hand" && [[ $1 =~ start|first_day ]] || hand="About|$hand" ;; # not yet at the start
     esac
     for _ in {1..3}; do # a list of files looks into them or not, as its time allows
         furnish "$folder" "$1"
-        on_disk "$folder" "$hand" "${fate[@]}" 2>/dev/null # no word of the kill
+        on_disk "$folder" "$hand" "${fate[@]}"
         code=$?
-        [ "$6.$code" = kill.0 ] || break
-    done
+        [ "$5.$code" = kill.0 ] || break
+    done 2>/dev/null # no word of the kill
     {
         [ "$code" = "$wanted" ] || echo "it ended with code $code"
-        faults_of "$folder" "$1" "$3" "$6"
-        [ "$6" = kill ] || [ "$1" = exit ] || grep -q '^done' "$folder.told" || cat "$folder.told"
+        faults_of "$folder" "$1" "$5"
+        [ "$5" = kill ] || [ "$1" = exit ] || grep -q '^done' "$folder.told" || cat "$folder.told"
         before=$(cat "$folder"/real/scores "$folder/tessarine.sco")
         play "$folder" '' && grep -q '^done' "$folder.told" || echo "it does not come up again"
         [ -z "$before" ] || [ "$before" = "$(cat "$folder"/real/scores "$folder/tessarine.sco")" ] || echo "the start changed the counts"
     } >"$folder.wrong" 2>/dev/null
     if [ -s "$folder.wrong" ]; then
-        echo "FAILED $1, $4 number $5, $6: $(cat "$folder.wrong") (the call was $(sed -n "/^$4(/p" "$folder.calls" | sed -n "$5p"))"
+        echo "FAILED $1, $3 number $4, $5: $(cat "$folder.wrong") (the call was $(sed -n "/^$3(/p" "$folder.calls" | sed -n "$4p"))"
     fi
     rm -rf "$folder" "$folder".*
-    echo "ran $1 $6"
+    echo "ran $1 $5"
 }
 
 mkdir "$work/whole" && cp "$build/tessarine/tessarine" "$work"
 write_files "$work/whole"
-while IFS=';' read -r -u 4 command hand new; do
+while IFS=';' read -r -u 4 command hand; do
     [ $# -eq 0 ] || [[ " $* " == *" $command "* ]] || continue
-    folder=$work/$command
-    calls=()
-    for way in '' "$hand"; do # the calls of the start alone, and all
-        furnish "$folder" "$command" && on_disk "$folder" "$way" || echo "FAILED $command without any fault: $(cat "$folder".*)"
+    furnish "$work/$command.before" "$command"
+    for part in start all; do # the calls of the start alone, and with the command
+        folder=$work/$command.$part
+        furnish "$folder" "$command" && on_disk "$folder" "$([ "$part" = start ] || echo "$hand")" || echo "FAILED $command without any fault: $(cat "$folder".*)"
         until grep -q '^+++' "$folder.calls"; do sleep 0.01; done
-        calls+=("$(grep -c '^[a-z]' "$folder.calls")")
     done
-    [[ ! $command =~ start|first_day ]] || calls[0]=0
+    [[ $command =~ start|first_day ]] && first=0 || first=$(grep -c '^[a-z]' "$work/$command.start.calls")
     while read -r call at bytes; do
         for way in $(ways_of "$call" "$bytes"); do
             [ "$(jobs -r | wc -l)" -lt 2 ] || wait -n
-            one "$command" "$hand" "$new" "$call" "$at" "$way" &
+            one "$command" "$hand" "$call" "$at" "$way" &
         done
-    done < <(awk -F '(' -v "start=${calls[0]}" '{ ++n[$1] } NR > start && /^[a-z]/ { size = $0; sub(/.* = /, "", size); print $1, n[$1], size }' "$folder.calls")
+    done < <(awk -F '(' -v "first=$first" '{ ++n[$1] } NR > first && /^[a-z]/ { sub(/.* = /, "", $NF); print $1, n[$1], $NF }' "$work/$command.all.calls")
 done 4<<<"$commands" |
     awk '/^ran / { ++all; kills += $3 == "kill"; next } { print; failed += /^FAILED/ } END {
         printf "in all %d faults and %d kills, %d went wrong\n", all - kills, kills, failed

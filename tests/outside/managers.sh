@@ -9,7 +9,7 @@ shift
 
 size() { echo "xdotool windowsize \$W $1 $2"; }
 there_and_back() {
-    size 264 514 && echo remember
+    size 264 514
     for i in {1..100}; do size $((300 + i * 7 % 500)) $((500 + i % 30)); size 264 514; done
 }
 storm() { # a hundred sizes without a pause
@@ -27,7 +27,7 @@ states() {
 managed() {
     display 1280x1024
     if [ $# -gt 0 ]; then "$@" >"$work/$1.said" 2>&1 & started+=($!); sleep 1.5; fi
-    QT_QPA_PLATFORM=xcb "$build/tests/outside/window_storm" < <(there_and_back; storm; echo; states; storm; echo)
+    QT_QPA_PLATFORM=xcb "$build/tests/outside/window_storm" "$work/$kind.files" < <(there_and_back; storm; echo; states; storm; echo)
 }
 
 floats() { managed openbox; }
@@ -40,13 +40,13 @@ scales() { # the factor changes while the program runs
              {"name": "b", "x": 1200, "y": 0, "width": 2400, "height": 1800, "dpr": 2},
              {"name": "c", "x": 3600, "y": 0, "width": 1800, "height": 1350, "dpr": 1.5}]}
 END
-    for i in {1..50}; do printf 'screen %d\n' 1 2 0; [ "$i" != 1 ] || echo remember; done |
-        (cat && echo 'as remembered') |
-        QT_QPA_PLATFORM=offscreen:configfile=$work/screens QT_LOGGING_RULES='*=false' "$build/tests/outside/window_storm"
+    QT_QPA_PLATFORM=offscreen:configfile=$work/screens QT_LOGGING_RULES='*=false' \
+        "$build/tests/outside/window_storm" "$work/$kind.files" < <(for _ in {1..50}; do printf 'screen %d\n' 1 2 0; done)
 }
 
 [ $# -gt 0 ] || set -- floats tiles refuses none scales
 for kind in "$@"; do
+    mkdir "$work/$kind.files" && write_files "$work/$kind.files" && cp "$build/tessarine/all.col" "$work/$kind.files"
     # Its own shell ends what it started.
     (trap 'kill "${started[@]}" 2>/dev/null' EXIT && "$kind" && touch "$work/$kind.good") >"$work/$kind" 2>&1 &
 done

@@ -1,23 +1,21 @@
-// The program's window in the hands of a window manager: reads commands of the shell from the standard
-// input, runs each (with the window's number in $W), waits until the window is at rest, and looks at the
-// table. "screen N" moves the window to another screen itself, "expect WIDTH" is a width of the window
-// that must have come back, to a pixel, "remember" and "as remembered" hold the cards' sizes.
+// The program's window in the hands of a window manager: works in a player's folder (the argument),
+// reads commands of the shell from the standard input, runs each (with the window's number in $W), waits
+// until the window is at rest, and looks at the table. "screen N" moves the window to another screen
+// itself: the cards must have the size there that they had when they first came.
 #include "desktop/desktop_platform.h"
 #include "desktop/form_window.h"
 #include "support/table_check.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QProcess>
 #include <QScreen>
-#include <QTemporaryDir>
 #include <QThread>
 #include <QWindow>
 
 #include <array>
-#include <atomic>
-#include <fstream>
 #include <iostream>
-#include <thread>
+#include <map>
 
 using namespace tessarine;
 
@@ -27,7 +25,10 @@ namespace
 class Watch : public QObject
 {
 public:
-    Watch(Form1& form, DesktopPlatform& platform) : form_(form), window_(*platform.WindowOf(form)) {}
+    Watch(Form1& form, FormWindow& window) : form_(form), window_(window)
+    {
+        qApp->installEventFilter(this);
+    }
 
     /// Between any two events.
     bool eventFilter(QObject* /*watched*/, QEvent* /*event*/) override
@@ -36,64 +37,59 @@ public:
         return false;
     }
 
-    void Rest()
+    void Look()
     {
         QElapsedTimer all;
         QElapsedTimer still;
         all.start();
         still.start();
-        for (QSize size; still.elapsed() < 250; QThread::msleep(2)) {
+        for (QSize size; still.elapsed() < 250 && all.elapsed() < 10000; QThread::msleep(2)) {
             QApplication::processEvents();
             if (std::exchange(size, window_.size()) != window_.size()) {
                 still.restart();
             }
-            if (all.elapsed() > 10000) {
-                Expect("it never comes to rest");
-                break;
-            }
         }
-    }
-
-    void Look()
-    {
-        Expect(test::FaultOfTable(form_));
+        Expect(still.elapsed() < 250 ? "it never comes to rest" : test::FaultOfTable(form_));
         if (window_.isMinimized()) {
             return; // what it shows then nobody sees
         }
         const QSize screen = window_.screen()->size();
-        if (window_.width() > screen.width() || window_.height() > screen.height()) {
-            Expect("it is larger than the screen");
-        }
+        Expect(window_.size() == window_.size().boundedTo(screen) ? "" : "it is larger than the screen");
         const double beside = form_.OuterWidth() - form_.table.Picture2.Width() - 175;
         Expect(beside > -TwipsPerPixel ? "" : "the table leaves its window");
-        Expect(form_.Width() == window_.width() * TwipsPerPixel
-                   ? ""
-                   : "the program counts another width: " +
-                         std::to_string(form_.Width() / TwipsPerPixel));
+        Expect(form_.Width() == window_.width() * TwipsPerPixel ? "" : "the form has another width");
+    }
+
+    void MoveTo(QScreen& screen)
+    {
+        window_.windowHandle()->setScreen(&screen);
+        window_.move(screen.geometry().topLeft() + QPoint(20, 20));
+        Look();
+        Expect(window_.devicePixelRatio() == screen.devicePixelRatio() ? "" : "another scale");
+        const Module1& now = form_.shared;
+        const std::array<Whole, 3> sizes{now.CardWidth, now.CardHeight, now.FanStep};
+        Expect(sizesOn_.try_emplace(&screen, sizes).first->second == sizes ? ""
+                                                                           : "the cards have changed");
     }
 
     void Expect(const std::string& fault)
     {
-        if (!fault.empty() && faults_++ < 3) {
+        if (!fault.empty() && faults++ < 3) {
             std::cout << "   after " << command << ": " << fault << " (" << window_.width() << " by "
-                      << window_.height() << ")" << std::endl;
+                      << window_.height() << ", the form's width " << form_.Width() / TwipsPerPixel
+                      << ")" << std::endl;
         }
     }
-    int Faults() const { return faults_; }
 
     std::string command = "the start";
+    int faults = 0;
 
 private:
     Form1& form_;
     FormWindow& window_;
     test::Proportions proportions_{form_};
-    int faults_ = 0;
+    std::map<QScreen*, std::array<Whole, 3>> sizesOn_;
 };
-
-std::array<Whole, 3> SizesOf(const Form1& form)
-{
-    return {form.shared.CardWidth, form.shared.CardHeight, form.shared.FanStep};
-}
 
 } // namespace
 
@@ -103,52 +99,27 @@ int main(int argc, char* argv[])
         Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     QCoreApplication::setAttribute(Qt::AA_Use96Dpi);
     const QApplication application(argc, argv);
-    const QTemporaryDir folder;
-    const std::string in = folder.path().toStdString();
-    std::ofstream(in + "/tessarine.cfg") << "\n1 1 0\n1\n0\n1\n2\n3\n4\ndefault.col\narial\n";
-    std::ofstream(in + "/all.col") << "default.col\n"
-                                   << QByteArray("9;99;199\n").repeated(13).toStdString();
     DesktopPlatform platform;
-    Form1 form(platform, in, in + "/t");
+    const std::string folder = argv[1];
+    Form1 form(platform, folder, folder + "/tessarine");
     form.Start();
     FormWindow& window = *platform.WindowOf(form);
     qputenv("W", QByteArray::number(window.winId()));
-    Watch watch(form, platform);
-    qApp->installEventFilter(&watch);
-    watch.Rest();
+    Watch watch(form, window);
     watch.Look();
-
-    std::array<Whole, 3> remembered{};
     int commands = 0;
-    for (std::string line; std::getline(std::cin, line); ++commands) {
-        watch.command = line;
-        if (line == "remember") {
-            remembered = SizesOf(form);
-        } else if (line == "as remembered") {
-            watch.Expect(remembered == SizesOf(form) ? "" : "the cards have another size");
-        } else if (line.starts_with("expect ")) {
-            watch.Expect(std::abs(std::stoi(line.substr(7)) - window.width()) <= 1 ? ""
-                                                                                   : "another width");
-        } else if (line.starts_with("screen ")) {
-            QScreen* const screen = QGuiApplication::screens()[std::stoi(line.substr(7))];
-            window.windowHandle()->setScreen(screen);
-            window.move(screen->geometry().topLeft() + QPoint(20, 20));
-            watch.Rest();
-            watch.Expect(window.devicePixelRatio() == screen->devicePixelRatio() ? "" : "another scale");
-        } else {
-            std::atomic<bool> isOver = false;
-            std::thread shell([&] {
-                static_cast<void>(std::system(line.c_str()) + 1);
-                isOver = true;
-            });
-            while (!isOver) { // the program goes on meanwhile
-                QApplication::processEvents(QEventLoop::AllEvents, 5);
-            }
-            shell.join();
+    for (std::string& line = watch.command; std::getline(std::cin, line); ++commands) {
+        if (line.starts_with("screen ")) {
+            watch.MoveTo(*QGuiApplication::screens()[std::stoi(line.substr(7))]);
+            continue;
         }
-        watch.Rest();
+        QProcess shell;
+        shell.start("sh", {"-c", QString::fromStdString(line)});
+        while (shell.state() != QProcess::NotRunning) { // the program goes on meanwhile
+            QApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+        }
         watch.Look();
     }
-    std::cout << "   " << commands << " commands, " << watch.Faults() << " faults" << std::endl;
-    std::_Exit(watch.Faults() == 0 && commands > 0 ? 0 : 1);
+    std::cout << "   " << commands << " commands, " << watch.faults << " faults" << std::endl;
+    std::_Exit(watch.faults == 0 && commands > 0 ? 0 : 1);
 }
