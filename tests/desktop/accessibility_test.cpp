@@ -57,6 +57,8 @@ TEST_F(AccessibilityTest, AToolWorksControlsAndSeesHowTheyStand)
     ScrollBar red(ScrollBar::Direction::Down);
     CheckBox check;
     BoxControl button;
+    int presses = 0;
+    button.MouseUp = [&](const MouseEvent&) { ++presses; };
     red.SetRange(255, 0, 1, 1);
     red.SetValue(200);
     Show({&red, &check, &button});
@@ -67,7 +69,9 @@ TEST_F(AccessibilityTest, AToolWorksControlsAndSeesHowTheyStand)
     EXPECT_EQ(Of(button).role(), QAccessible::Button);
     for (const bool isSet : {true, false}) {
         Of(check).actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        Of(button).actionInterface()->doAction(QAccessibleActionInterface::pressAction());
         EXPECT_EQ(check.Value(), !isSet) << "a box may come up, and the tool has its answer before";
+        EXPECT_EQ(presses, isSet ? 0 : 1);
         Events();
         EXPECT_TRUE(check.Value() == isSet && Of(check).state().checked == isSet);
     }

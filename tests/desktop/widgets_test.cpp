@@ -115,13 +115,12 @@ TEST_F(WidgetsTest, OptionsTurnOnlyAsTheirControlsDo)
     PushButton button;
     TextBox text;
     int presses = 0;
-    surface.MouseDown = text.MouseDown = button.MouseUp = [&](const MouseEvent&) { ++presses; };
+    text.MouseDown = button.MouseUp = [&](const MouseEvent&) { ++presses; };
     const std::vector<Control*> all = {&one, &two, &button, &text};
     for (std::size_t i = 0; i < all.size(); ++i) {
         all[i]->SetBounds(150, 300 * static_cast<Twips>(i), 1800, 240);
-        surface.Add(*all[i]);
     }
-    Show({&surface});
+    Show(all);
     for (const Control* each : std::initializer_list<Control*>{&one, &two, &two}) {
         Click(*each); // a second time, too: it stays
     }
@@ -141,10 +140,6 @@ TEST_F(WidgetsTest, OptionsTurnOnlyAsTheirControlsDo)
     Type(form, Qt::Key_Return);
     Click(text);
     EXPECT_EQ(presses, 3);
-    one.SetEnabled(false);
-    Events();
-    Click(one);
-    EXPECT_TRUE(two.Value() && presses == 3) << "nor does what lies behind it hear of it";
 }
 
 TEST_F(WidgetsTest, CaseIsFoldedAsTheToolkitFoldsIt)

@@ -11,6 +11,7 @@
 #include <QFileDialog>
 #include <QHeaderView>
 #include <QInputDialog>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QToolButton>
@@ -62,13 +63,16 @@ TEST_F(WindowTest, TheKeyboardWorksADialog)
     EXPECT_EQ(AnswerTo({Qt::Key_Tab, Qt::Key_Space}), &second);
     first.SetVisible(true);
     EXPECT_EQ(AnswerTo({Qt::Key_Tab, Qt::Key_Enter}), &first);
-    list.SetEnabled(false);
-    EXPECT_EQ(AnswerTo({Qt::Key_Return}), &first);
-    list.SetVisible(false);
-    EXPECT_EQ(AnswerTo({Qt::Key_Backtab, Qt::Key_Return}), &second);
+    for (Control* each : std::initializer_list<Control*>{&list, &first}) {
+        each == &list ? list.SetEnabled(false) : first.SetVisible(false);
+        form.Unload();
+        EXPECT_EQ(AnswerTo({Qt::Key_Return}), each == &list ? &first : &second);
+    }
+    first.SetVisible(true);
     form.Show();
     Events();
     const QImage marked = Native(first).grab().toImage();
+    Native(second).setFocus();
     Click(first);
     form.Show();
     Events();
@@ -108,6 +112,8 @@ TEST_F(WindowTest, AWindowHasTheTitleTheIconAndTheButtonsOfItsFrame)
         EXPECT_EQ(window.windowFlags().testFlag(Qt::WindowCloseButtonHint), has);
         EXPECT_EQ(window.windowFlags().testFlag(Qt::WindowMaximizeButtonHint), has);
         EXPECT_EQ(window.minimumSize() == window.maximumSize(), !has);
+        window.resize(500, 400);
+        EXPECT_EQ(form.Width(), has ? 7500 : 6000);
         window.showMinimized();
         form.Show();
         EXPECT_FALSE(window.isMinimized());
@@ -263,6 +269,7 @@ TEST_F(WindowTest, ABoxOfTheSystemWearsTheColoursOfItsFormAndReturnsWhatWasAnswe
         const auto type = [&](QWidget& box) {
             auto& input = dynamic_cast<QInputDialog&>(box);
             EXPECT_EQ(input.labelText(), QStringLiteral("Name"));
+            EXPECT_EQ(input.findChild<QLineEdit*>()->palette().color(QPalette::Base), QColor(Qt::black));
             input.setTextValue(QStringLiteral("lagoon"));
             input.done(accepted ? QDialog::Accepted : QDialog::Rejected);
         };
