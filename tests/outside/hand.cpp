@@ -7,9 +7,6 @@
 #include <QAbstractItemView>
 #include <QAccessible>
 #include <QApplication>
-#include <QDebug>
-#include <QFileDialog>
-#include <QInputDialog>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QScreen>
@@ -87,19 +84,16 @@ std::function<void()> WayTo(const QString& wish, QWidget& window)
     if (wish.startsWith(u"room:")) {
         return [=] { LimitRoom(value); };
     }
-    if (auto* const box = qobject_cast<QInputDialog*>(&window); box && wish.startsWith(u"text:")) {
-        return [=] { box->setTextValue(value), box->accept(); };
+    auto* const field = window.findChild<QLineEdit*>();
+    if (field != nullptr && (wish.startsWith(u"text:") || wish.startsWith(u"file:"))) {
+        return [=, &window] { field->setText(value), QMetaObject::invokeMethod(&window, "accept"); };
     }
-    if (auto* const box = qobject_cast<QFileDialog*>(&window); box && wish.startsWith(u"file:")) {
-        return [=] {
-            box->findChild<QLineEdit*>()->setText(value);
-            QMetaObject::invokeMethod(box, "accept");
-        };
-    }
-    for (auto* list : window.findChildren<QAbstractItemView*>()) {
-        const auto rows = list->model()->match(list->model()->index(0, 0), Qt::DisplayRole, value, 1);
-        if (wish.startsWith(u"row:") && list->isVisible() && !rows.isEmpty()) {
-            return [=] { ClickOn(*list, rows.first()); };
+    const auto lists = window.findChildren<QAbstractItemView*>();
+    for (auto list = lists.begin(); wish.startsWith(u"row:") && list != lists.end(); ++list) {
+        const QAbstractItemModel& model = *(*list)->model();
+        const auto rows = model.match(model.index(0, 0), Qt::DisplayRole, value, 1, Qt::MatchExactly);
+        if ((*list)->isVisible() && !rows.isEmpty()) {
+            return [row = rows.first(), &view = **list] { ClickOn(view, row); };
         }
     }
     QAccessibleInterface* const button = Button(window, wish);
@@ -124,9 +118,7 @@ void TellWhetherOnScreen(const QWidget& window, const QString& wish)
         place = button->rect();
     }
     if (!screen.contains(place)) {
-        QString text;
-        QDebug(&text) << window.windowTitle() << wish << place;
-        Tell("off the screen", text);
+        Tell("off the screen", QStringLiteral("%1 with its %2").arg(window.windowTitle(), wish));
     }
 }
 
