@@ -20,34 +20,20 @@ namespace
 constexpr std::size_t GesturesOfStorm = 400;
 constexpr unsigned LongestSeconds = 60;
 
-/// What the process that plays tells the one that watches.
-struct Progress {
-    unsigned seed = 1;
-    std::size_t played = 0;
-};
-
-bool Plays(const std::vector<Gesture>& gestures, Progress& progress)
+/// Whether the storm goes well in a process of its own, which may be ended by the program.
+bool Survives(unsigned seed, const std::vector<Gesture>& gestures, StormCount& count)
 {
-    alarm(LongestSeconds);
-    const StormReport report = PlayStorm(progress.seed, gestures);
-    progress.played += report.played;
-    if (!report.fault.empty()) {
-        std::fprintf(stderr, "%s\n", report.fault.c_str());
-        return false;
-    }
-    return true;
-}
-
-/// Whether it all goes well in a process of its own.
-template <class Action> bool Survives(const Action& action)
-{
+    count.owed = 0;
     const pid_t child = fork();
     if (child == 0) {
-        std::_Exit(action() ? 0 : 1);
+        alarm(LongestSeconds);
+        const std::string fault = PlayHere(seed, gestures, count);
+        std::fprintf(stderr, "%s%s", fault.c_str(), fault.empty() ? "" : "\n");
+        std::_Exit(fault.empty() ? 0 : 1);
     }
     int status = -1;
     waitpid(child, &status, 0);
-    return status == 0;
+    return status == 0 && count.owed == 0;
 }
 
 /// Drops gestures for as long as `fails` still holds without them.
@@ -68,37 +54,33 @@ template <class Fails> std::vector<Gesture> Shortest(std::vector<Gesture> gestur
 
 } // namespace
 
-int main(int count, char** words)
+int main(int words, char** word)
 {
     void* const shared =
-        mmap(nullptr, sizeof(Progress), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0);
-    Progress& progress = *new (shared) Progress;
-    progress.seed = count > 2 ? static_cast<unsigned>(std::atoi(words[2])) : 1;
-    if (count > 3) {
+        mmap(nullptr, sizeof(StormCount), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0);
+    StormCount& count = *new (shared) StormCount;
+    unsigned seed = words > 2 ? static_cast<unsigned>(std::atoi(word[2])) : 1;
+    if (words > 3) {
         std::vector<Gesture> gestures;
-        for (int i = 3; i < count; ++i) {
-            gestures.push_back(
-                std::bit_cast<Gesture>(std::uint64_t{std::strtoull(words[i], nullptr, 16)}));
+        for (int i = 3; i < words; ++i) {
+            gestures.push_back(std::bit_cast<Gesture>(std::uint64_t{std::strtoull(word[i], nullptr, 16)}));
         }
-        return Plays(gestures, progress) ? 0 : 1;
+        return Survives(seed, gestures, count) ? 0 : 1;
     }
-    const std::size_t wanted = count > 1 ? std::strtoull(words[1], nullptr, 10) : 100'000;
-    const bool isFine = Survives([&] {
-        for (; progress.played < wanted; ++progress.seed) {
-            if (!Plays(RandomGestures(progress.seed, GesturesOfStorm), progress)) {
-                return false;
-            }
-        }
-        return true;
-    });
-    std::printf("%zu gestures, up to seed %u: %s\n", progress.played, progress.seed,
-                isFine ? "nothing broke" : "broken");
+    const std::size_t wanted = words > 1 ? std::strtoull(word[1], nullptr, 10) : 100'000;
+    bool isFine = true;
+    while (isFine && count.gestures < wanted) {
+        isFine = Survives(seed, RandomGestures(seed, GesturesOfStorm), count);
+        seed += isFine ? 1 : 0;
+    }
+    std::printf("%zu gestures, %zu events, %zu times compared, up to seed %u: %s\n", count.gestures,
+                count.events, count.compared, seed, isFine ? "nothing broke" : "broken");
     if (!isFine) {
         const auto fails = [&](const std::vector<Gesture>& gestures) {
-            return !Survives([&] { return Plays(gestures, progress); });
+            return !Survives(seed, gestures, count);
         };
-        std::printf("gesture_storm 1 %u", progress.seed);
-        for (const Gesture& gesture : Shortest(RandomGestures(progress.seed, GesturesOfStorm), fails)) {
+        std::printf("%s 1 %u", word[0], seed);
+        for (const Gesture& gesture : Shortest(RandomGestures(seed, GesturesOfStorm), fails)) {
             std::printf(" %016llx",
                         static_cast<unsigned long long>(std::bit_cast<std::uint64_t>(gesture)));
         }

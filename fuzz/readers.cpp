@@ -121,7 +121,10 @@ void Storms(const std::string& text)
 {
     std::vector<Gesture> gestures(text.size() / sizeof(Gesture));
     std::memcpy(gestures.data(), text.data(), gestures.size() * sizeof(Gesture));
-    Must(PlayStorm(static_cast<unsigned>(text.size()), gestures).fault.empty());
+    const auto seed = static_cast<unsigned>(text.size());
+    HeadlessStage stage(seed);
+    StormCount count;
+    Must(PlayStorm(stage, seed, gestures, count).empty());
 }
 
 using Reader = void (*)(const std::string&);

@@ -383,7 +383,8 @@ std::string HeadlessPlatform::ChooseFile(const FileDialogRequest& request, Form*
     }
     std::string answer = std::move(chosenFiles.front());
     chosenFiles.pop_front();
-    return answer;
+    const bool isName = !answer.empty() && answer.find('/') == std::string::npos;
+    return isName ? request.folder + answer : answer;
 }
 
 void HeadlessPlatform::PlayWave(const std::string& path)

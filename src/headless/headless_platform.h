@@ -33,7 +33,7 @@ public:
     /// Answers of the system's own boxes, in order; without one: Ok or No, an empty text, a cancel.
     std::deque<bool> plainAnswers;
     std::deque<std::string> typedAnswers;
-    std::deque<std::string> chosenFiles;
+    std::deque<std::string> chosenFiles; ///< a bare name is one in the folder that the dialog opens in
     /// Runs inside the next call that lets pending events run, waits, or opens a box of the system, one
     /// entry a call: input in the middle of something.
     std::deque<std::function<void()>> meanwhile;

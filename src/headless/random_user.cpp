@@ -5,35 +5,19 @@
 #include <algorithm>
 #include <array>
 #include <bit>
+#include <cmath>
+#include <utility>
 
 namespace tessarine
 {
 namespace
 {
 
-enum class Kind {
-    Drag,
-    RightClick,
-    Click,
-    Press,
-    Move,
-    Release,
-    Tool,
-    Resize,
-    Refuse,
-    Wait,
-    Close,
-    Front,
-    Key,
-    Ask,
-    Answer,
-    Lost
-};
-
 struct Share {
-    Kind kind;
+    GestureKind kind;
     unsigned parts; ///< of 64
 };
+using Kind = GestureKind;
 constexpr std::array<Share, 16> Shares = {{{Kind::Drag, 14},
                                            {Kind::RightClick, 10},
                                            {Kind::Click, 10},
@@ -51,45 +35,17 @@ constexpr std::array<Share, 16> Shares = {{{Kind::Drag, 14},
                                            {Kind::Answer, 2},
                                            {Kind::Lost, 1}}};
 
-Kind KindOf(const Gesture& gesture)
+Twips ToPixel(Twips place)
 {
-    unsigned place = gesture.kind % 64U;
-    for (const Share& share : Shares) {
-        if (place < share.parts) {
-            return share.kind;
-        }
-        place -= share.parts;
-    }
-    return Kind::Move;
+    return std::floor(place / TwipsPerPixel) * TwipsPerPixel;
 }
 
-template <class Visit> void ForEachShown(const Container& on, const Visit& visit)
-{
-    for (Control* control : on.Children()) {
-        if (!control->Visible()) {
-            continue;
-        }
-        visit(*control);
-        if (const auto* box = dynamic_cast<const Container*>(control)) {
-            ForEachShown(*box, visit);
-        }
-    }
-}
-
-/// A reader goes through all that there is.
-void AskForNames(const Forms& forms)
-{
-    for (const Form* form : forms.Loaded()) {
-        ForEachShown(*form, [](const Control& control) { static_cast<void>(control.AccessibleName()); });
-    }
-}
-
-/// A point of the control, or a little beside it.
+/// A point of the control, or a little beside it, where a pointer can be.
 Point PointOn(const Control& control, const Gesture& gesture)
 {
     const Point corner = control.PlaceOnForm();
-    return {corner.x + control.Width() * (gesture.across / 60000.0 - 0.04),
-            corner.y + control.Height() * (gesture.down / 60000.0 - 0.04)};
+    return {ToPixel(corner.x + control.Width() * (gesture.across / 60000.0 - 0.04)),
+            ToPixel(corner.y + control.Height() * (gesture.down / 60000.0 - 0.04))};
 }
 
 Size SizeOf(const Gesture& gesture)
@@ -107,52 +63,116 @@ bool IsToolkits(const Control* control)
 
 } // namespace
 
-// --- the hands ---
+GestureKind KindOf(const Gesture& gesture)
+{
+    unsigned place = gesture.kind % 64U;
+    for (const Share& share : Shares) {
+        if (place < share.parts) {
+            return share.kind;
+        }
+        place -= share.parts;
+    }
+    return Kind::Move;
+}
+
+void Hands::Answer(int detail)
+{
+    static constexpr std::array names = {"New", "new", "default", " ;.col", "\xC3\xA4"};
+    static constexpr std::array files = {"savedgame1.gam", "tempgame.txt", "all.col", ""};
+    const auto any = static_cast<std::size_t>(detail);
+    plainAnswers_ = {detail % 2 == 0, detail % 3 == 0};
+    typedAnswers_ = {names[any % names.size()]};
+    chosenFiles_ = {files[any % files.size()]};
+}
+
+// --- the headless hands ---
+
+void HeadlessHands::MeetNext()
+{
+    platform_.OnNextModal([this](Form& form) {
+        MeetNext();
+        while (form.IsShown()) {
+            Meet(form);
+        }
+    });
+}
 
 void HeadlessHands::Press(Form& form, Point at, int button, int shift)
 {
-    if (form.Captured() != nullptr || !IsToolkits(form.FrontMostAt(at.x, at.y))) {
-        platform_.Press(form, at.x, at.y, button, shift);
+    platform_.Press(form, at.x, at.y, button, shift);
+}
+
+void HeadlessHands::Release(Form& form, Point at, int button)
+{
+    platform_.Release(form, at.x, at.y, button);
+}
+
+void HeadlessHands::Work(Control& control, int button, int detail)
+{
+    const auto choice = static_cast<std::size_t>(detail);
+    if (auto* list = dynamic_cast<ListBox*>(&control)) {
+        const std::size_t entry = choice % (list->Items().Count() + 1);
+        entry == 0 ? list->UserReleasesOnNothing(button) : list->UserPicks(entry - 1, button);
+    } else if (auto* bar = dynamic_cast<ScrollBar*>(&control)) {
+        bar->UserSets(bar->Min() + detail * (bar->Max() - bar->Min()) / 256);
+    } else if (auto* page = dynamic_cast<Browser*>(&control)) {
+        page->UserFollows({page->Location().path, std::string(choice % 3, 'a')});
+    } else {
+        platform_.Click(control, button);
     }
 }
 
-void HeadlessHands::Release(Form& form, Point at, int button, int detail)
+void HeadlessHands::AskForNames(const Forms& forms)
 {
-    Control* const control = form.FrontMostAt(at.x, at.y);
-    if (form.Captured() != nullptr || !IsToolkits(control)) {
-        platform_.Release(form, at.x, at.y, button);
-        return;
+    for (const Form* form : forms.Loaded()) {
+        ForEachShown(*form, [](const Control& control) { static_cast<void>(control.AccessibleName()); });
     }
-    const auto choice = static_cast<std::size_t>(detail);
-    if (auto* list = dynamic_cast<ListBox*>(control)) {
-        const std::size_t entry = choice % (list->Items().Count() + 1);
-        entry == 0 ? list->UserReleasesOnNothing(button) : list->UserPicks(entry - 1, button);
-    } else if (auto* bar = dynamic_cast<ScrollBar*>(control)) {
-        bar->UserSets(bar->Min() + detail * (bar->Max() - bar->Min()) / 256);
-    } else if (auto* page = dynamic_cast<Browser*>(control)) {
-        page->UserFollows({page->Location().path, std::string(choice % 3, 'a')});
-    } else {
-        platform_.Click(*control, button);
-    }
-    Move(form, at);
 }
 
 void HeadlessHands::Refuse(Form& form)
 {
+    hasRefused_ = true;
     if (platform_.refusesSize.erase(&form) == 0) {
         platform_.refusesSize.insert(&form);
     }
 }
 
+void HeadlessHands::Key(Form& form, int detail)
+{
+    form.FeedKey(detail % 2 == 0 ? DialogKey::Escape : DialogKey::Enter);
+}
+
+void HeadlessHands::Settle()
+{
+    constexpr int longest = 300;
+    platform_.meanwhile.clear();
+    platform_.Advance(longest);
+}
+
 void HeadlessHands::Answer(int detail)
 {
-    static constexpr std::array names = {"New", "new", "default", " ;.col", "\xC3\xA4"};
-    static constexpr std::array files = {"savedgame;01", "tempgame.txt", "all.col", "none"};
-    const auto any = static_cast<std::size_t>(detail);
-    platform_.plainAnswers = {detail % 2 == 0, detail % 3 == 0};
-    platform_.typedAnswers = {names[any % names.size()]};
-    const std::string folder = platform_.fileDialogs.empty() ? "" : platform_.fileDialogs.back().folder;
-    platform_.chosenFiles = {folder + files[any % files.size()]};
+    Hands::Answer(detail);
+    platform_.plainAnswers = plainAnswers_;
+    platform_.typedAnswers = typedAnswers_;
+    platform_.chosenFiles = chosenFiles_;
+}
+
+void HeadlessHands::Meanwhile(int calls, std::function<void()> action)
+{
+    auto& meanwhile = platform_.meanwhile;
+    meanwhile.resize(meanwhile.size() + static_cast<std::size_t>(calls), [] {});
+    meanwhile.push_back(std::move(action));
+}
+
+std::string HeadlessHands::Fault()
+{
+    platform_.sounds.clear();
+    for (const std::string& text : std::exchange(platform_.plainMessages, {})) {
+        if (text.find("not in stack") != std::string::npos || text.find("call") != std::string::npos) {
+            return text;
+        }
+    }
+    return platform_.busy || platform_.frozen != nullptr ? "it stays busy" : "";
 }
 
 // --- the user ---
@@ -180,15 +200,34 @@ Control& RandomUser::Aim(Form& form, unsigned which) const
     return *shown[which % shown.size()];
 }
 
+/// The toolkit's widgets take a press and its release as one.
+void RandomUser::Press(Form& form, Point at, int button, int shift)
+{
+    if (form.Captured() != nullptr || !IsToolkits(form.FrontMostAt(at.x, at.y))) {
+        hands_.Press(form, at, button, shift);
+    }
+}
+
+void RandomUser::Release(Form& form, Point at, int button, int detail)
+{
+    Control* const control = form.FrontMostAt(at.x, at.y);
+    if (form.Captured() != nullptr || !IsToolkits(control)) {
+        hands_.Release(form, at, button);
+    } else {
+        hands_.Work(*control, button, detail);
+        hands_.Move(form, at);
+    }
+}
+
 void RandomUser::Drag(Form& form, const Control& control, Point at, const Gesture& gesture)
 {
     const Point from = control.PlaceOnForm();
     const Point onto = Aim(form, gesture.detail).PlaceOnForm();
-    const Point to{onto.x + at.x - from.x, onto.y + at.y - from.y};
-    hands_.Press(form, at, LeftButton, 0);
-    hands_.Move(form, {(at.x + to.x) / 2, (at.y + to.y) / 2});
+    const Point to{ToPixel(onto.x + at.x - from.x), ToPixel(onto.y + at.y - from.y)};
+    Press(form, at, LeftButton, 0);
+    hands_.Move(form, {ToPixel((at.x + to.x) / 2), ToPixel((at.y + to.y) / 2)});
     hands_.Move(form, to);
-    hands_.Release(form, to, LeftButton, gesture.detail);
+    Release(form, to, LeftButton, gesture.detail);
 }
 
 void RandomUser::Do(const Gesture& gesture)
@@ -199,9 +238,9 @@ void RandomUser::Do(const Gesture& gesture)
     const Point at = PointOn(control, gesture);
     const int button = buttons[gesture.detail % buttons.size()];
     const auto click = [&](int which) {
-        hands_.Press(form, at, which, 0);
+        Press(form, at, which, 0);
         if (form.IsShown()) {
-            hands_.Release(form, at, which, gesture.detail);
+            Release(form, at, which, gesture.detail);
         }
     };
     switch (KindOf(gesture)) {
@@ -215,17 +254,17 @@ void RandomUser::Do(const Gesture& gesture)
         click(LeftButton);
         break;
     case Kind::Press:
-        hands_.Press(form, at, button, gesture.detail < 200 ? 0 : gesture.detail % 8);
+        Press(form, at, button, gesture.detail < 200 ? 0 : gesture.detail % 8);
         break;
     case Kind::Move:
         hands_.Move(form, at);
         break;
     case Kind::Release:
-        hands_.Release(form, at, button, gesture.detail);
+        Release(form, at, button, gesture.detail);
         break;
     case Kind::Tool: // a tool can press what the keyboard could
         if (control.TakesFocus()) {
-            control.UserActivates();
+            hands_.Activate(control);
         }
         break;
     case Kind::Resize:
@@ -248,10 +287,10 @@ void RandomUser::Do(const Gesture& gesture)
         hands_.ComeToFront(form);
         break;
     case Kind::Key:
-        hands_.Key(form, gesture.detail % 2 == 0 ? DialogKey::Escape : DialogKey::Enter);
+        hands_.Key(form, gesture.detail);
         break;
     case Kind::Ask:
-        AskForNames(form.AllForms());
+        hands_.AskForNames(form.AllForms());
         break;
     case Kind::Answer:
         hands_.Answer(gesture.detail);

@@ -70,8 +70,9 @@ GameWorld::GameWorld(const Position& position) : GameWorld()
     Arrange(position);
 }
 
-void GameWorld::Arrange(const Position& position)
+void Arrange(Form1& form, const Position& position)
 {
+    Table& table = form.table;
     for (TextList& stack : table.Stacks) {
         stack.Clear();
     }
@@ -79,7 +80,7 @@ void GameWorld::Arrange(const Position& position)
         table.cardy[card].SetCaption({});
         table.cardy[card].SetVisible(false);
     }
-    const auto lay = [this](int stack, const std::vector<int>& cards, int faceDown) {
+    const auto lay = [&table](int stack, const std::vector<int>& cards, int faceDown) {
         for (const int card : cards) {
             table.LayOn(stack, card, 0, 0);
             table.cardy[card].SetVisible(true);
@@ -98,6 +99,11 @@ void GameWorld::Arrange(const Position& position)
     lay(StockStack, position.stock, 0);
     form.undo.Clear();
     form.scaling.ScaleTable(1.0F);
+}
+
+void GameWorld::Arrange(const Position& position)
+{
+    test::Arrange(form, position);
     platform.sounds.clear();
 }
 

@@ -11,12 +11,23 @@
 namespace tessarine::test
 {
 
+struct Position {
+    std::vector<std::vector<int>> columns = {};
+    std::vector<int> stock = {};
+    std::vector<std::vector<int>> piles = {};
+    int faceDownInEachColumn = 0;
+};
+/// Empties the table but for these columns and this stock, all cards face-up in the order given
+/// (a stock's first entry is the front of the ring's list, behind the marker). Cards named in no
+/// list are nowhere.
+void Arrange(Form1& form, const Position& position);
+
 /// Starts with a configuration and a scheme in place and the sound on, so that no box comes up.
 class GameWorld
 {
 public:
     explicit GameWorld(std::uint64_t seed = 1);
-    struct Position;
+    using Position = tessarine::test::Position;
     explicit GameWorld(const Position& position);
     /// On a screen of this size, with this scale of the table stored.
     GameWorld(Size screen, const std::string& scale);
@@ -25,15 +36,6 @@ public:
     Form1 form;
     Table& table = form.table;
 
-    /// Empties the table but for these columns and this stock, all cards face-up in the order given
-    /// (a stock's first entry is the front of the ring's list, behind the marker). Cards named in no
-    /// list are nowhere.
-    struct Position {
-        std::vector<std::vector<int>> columns = {};
-        std::vector<int> stock = {};
-        std::vector<std::vector<int>> piles = {};
-        int faceDownInEachColumn = 0;
-    };
     void Arrange(const Position& position);
     std::string Order() const;               ///< of the deal, as a game file has it
     std::vector<int> Cards(int stack) const; ///< -1 for the marker
