@@ -7,6 +7,8 @@
 #include <bit>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
+#include <filesystem>
 #include <sys/mman.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -33,6 +35,9 @@ bool Survives(unsigned seed, const std::vector<Gesture>& gestures, StormCount& c
     }
     int status = -1;
     waitpid(child, &status, 0);
+    if (WIFSIGNALED(status)) {
+        std::fprintf(stderr, "%s\n", strsignal(WTERMSIG(status)));
+    }
     return status == 0 && count.owed == 0;
 }
 
@@ -52,39 +57,46 @@ template <class Fails> std::vector<Gesture> Shortest(std::vector<Gesture> gestur
     return gestures;
 }
 
-} // namespace
-
-int main(int words, char** word)
+int Run(const std::vector<std::string>& words, StormCount& count)
 {
-    void* const shared =
-        mmap(nullptr, sizeof(StormCount), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0);
-    StormCount& count = *new (shared) StormCount;
-    unsigned seed = words > 2 ? static_cast<unsigned>(std::atoi(word[2])) : 1;
-    if (words > 3) {
-        std::vector<Gesture> gestures;
-        for (int i = 3; i < words; ++i) {
-            gestures.push_back(std::bit_cast<Gesture>(std::uint64_t{std::strtoull(word[i], nullptr, 16)}));
-        }
+    unsigned seed = words.size() > 2 ? static_cast<unsigned>(std::stoul(words[2])) : 1;
+    std::vector<Gesture> gestures;
+    for (std::size_t i = 3; i < words.size(); ++i) {
+        gestures.push_back(std::bit_cast<Gesture>(std::uint64_t{std::stoull(words[i], nullptr, 16)}));
+    }
+    if (!gestures.empty()) {
         return Survives(seed, gestures, count) ? 0 : 1;
     }
-    const std::size_t wanted = words > 1 ? std::strtoull(word[1], nullptr, 10) : 100'000;
+    const std::size_t wanted = words.size() > 1 ? std::stoull(words[1]) : 100'000;
     bool isFine = true;
     while (isFine && count.gestures < wanted) {
         isFine = Survives(seed, RandomGestures(seed, GesturesOfStorm), count);
         seed += isFine ? 1 : 0;
     }
-    std::printf("%zu gestures, %zu events, %zu times compared, up to seed %u: %s\n", count.gestures,
-                count.events, count.compared, seed, isFine ? "nothing broke" : "broken");
-    if (!isFine) {
-        const auto fails = [&](const std::vector<Gesture>& gestures) {
-            return !Survives(seed, gestures, count);
-        };
-        std::printf("%s 1 %u", word[0], seed);
-        for (const Gesture& gesture : Shortest(RandomGestures(seed, GesturesOfStorm), fails)) {
-            std::printf(" %016llx",
-                        static_cast<unsigned long long>(std::bit_cast<std::uint64_t>(gesture)));
-        }
-        std::printf("\n");
+    std::printf("%zu gestures, %zu events, %zu pixels compared, up to seed %u: %s\n", count.gestures,
+                count.events, count.pixels, seed, isFine ? "nothing broke" : "broken");
+    if (isFine) {
+        return 0;
     }
-    return isFine ? 0 : 1;
+    const auto fails = [&](const std::vector<Gesture>& some) { return !Survives(seed, some, count); };
+    std::printf("%s 1 %u", words[0].c_str(), seed);
+    for (const Gesture& gesture : Shortest(RandomGestures(seed, GesturesOfStorm), fails)) {
+        std::printf(" %016llx", static_cast<unsigned long long>(std::bit_cast<std::uint64_t>(gesture)));
+    }
+    std::printf("\n");
+    return 1;
+}
+
+} // namespace
+
+int main(int count, char** words)
+{
+    void* const shared =
+        mmap(nullptr, sizeof(StormCount), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0);
+    // A program that ends leaves its files where they are.
+    std::string folder = std::filesystem::temp_directory_path() / "storm-XXXXXX";
+    setenv("TMPDIR", mkdtemp(folder.data()), 1);
+    const int result = Run({words, words + count}, *new (shared) StormCount);
+    std::filesystem::remove_all(folder);
+    return result;
 }

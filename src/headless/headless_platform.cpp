@@ -322,6 +322,9 @@ std::vector<std::string> HeadlessPlatform::ScreenFonts()
 
 Size HeadlessPlatform::TextSize(const Font& font, std::string_view text)
 {
+    if (measure) {
+        return measure(font, text);
+    }
     int longest = 0;
     int length = 0;
     int lines = 1;
@@ -383,8 +386,7 @@ std::string HeadlessPlatform::ChooseFile(const FileDialogRequest& request, Form*
     }
     std::string answer = std::move(chosenFiles.front());
     chosenFiles.pop_front();
-    const bool isName = !answer.empty() && answer.find('/') == std::string::npos;
-    return isName ? request.folder + answer : answer;
+    return answer;
 }
 
 void HeadlessPlatform::PlayWave(const std::string& path)

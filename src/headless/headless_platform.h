@@ -33,7 +33,7 @@ public:
     /// Answers of the system's own boxes, in order; without one: Ok or No, an empty text, a cancel.
     std::deque<bool> plainAnswers;
     std::deque<std::string> typedAnswers;
-    std::deque<std::string> chosenFiles; ///< a bare name is one in the folder that the dialog opens in
+    std::deque<std::string> chosenFiles;
     /// Runs inside the next call that lets pending events run, waits, or opens a box of the system, one
     /// entry a call: input in the middle of something.
     std::deque<std::function<void()>> meanwhile;
@@ -73,6 +73,8 @@ public:
     int fileOperations = 0;
     void ResetFileOperations(int failing = -1, bool fromThere = false, FileFault why = FileFault::Full);
 
+    /// Another measure of texts than the own one, by which all letters are alike.
+    std::function<Size(const Font&, std::string_view)> measure;
     std::vector<std::string> fonts = {"Arial", "Courier New", "DejaVu Sans", "Liberation Sans"};
     PixelPoint cursor;
     DateTime now{2008, 3, 14, 15, 9, 26, "Mar"};

@@ -35,6 +35,8 @@ constexpr std::array<Share, 16> Shares = {{{Kind::Drag, 14},
                                            {Kind::Answer, 2},
                                            {Kind::Lost, 1}}};
 
+constexpr std::array Buttons = {LeftButton, RightButton, MiddleButton};
+
 Twips ToPixel(Twips place)
 {
     return std::floor(place / TwipsPerPixel) * TwipsPerPixel;
@@ -78,7 +80,7 @@ GestureKind KindOf(const Gesture& gesture)
 void Hands::Answer(int detail)
 {
     static constexpr std::array names = {"New", "new", "default", " ;.col", "\xC3\xA4"};
-    static constexpr std::array files = {"savedgame1.gam", "tempgame.txt", "all.col", ""};
+    static constexpr std::array files = {"tessarine.cfg", "tempgame.txt", "all.col", ""};
     const auto any = static_cast<std::size_t>(detail);
     plainAnswers_ = {detail % 2 == 0, detail % 3 == 0};
     typedAnswers_ = {names[any % names.size()]};
@@ -154,7 +156,8 @@ void HeadlessHands::Answer(int detail)
     Hands::Answer(detail);
     platform_.plainAnswers = plainAnswers_;
     platform_.typedAnswers = typedAnswers_;
-    platform_.chosenFiles = chosenFiles_;
+    const std::string& name = chosenFiles_.front();
+    platform_.chosenFiles = {name.empty() ? name : folder_ + name};
 }
 
 void HeadlessHands::Meanwhile(int calls, std::function<void()> action)
@@ -177,12 +180,15 @@ std::string HeadlessHands::Fault()
 
 // --- the user ---
 
-/// The form that takes input, as a rule, or any that shows.
+/// The form that holds the mouse; else the form that takes input, as a rule, or any that shows.
 Form& RandomUser::Target(const Gesture& gesture) const
 {
     const Forms& forms = main_.AllForms();
     std::vector<Form*> shown;
     std::ranges::copy_if(forms.Loaded(), std::back_inserter(shown), &Form::IsShown);
+    if (down_ != 0 && std::ranges::find(shown, holder_) != shown.end()) {
+        return *holder_;
+    }
     if (gesture.window % 4 != 0 || shown.empty()) {
         Form* const modal = forms.Modal();
         return modal != nullptr && modal->IsShown() ? *modal : main_;
@@ -200,22 +206,39 @@ Control& RandomUser::Aim(Form& form, unsigned which) const
     return *shown[which % shown.size()];
 }
 
+void RandomUser::LetGo(Form& form, Point at)
+{
+    for (const int button : Buttons) {
+        if ((std::exchange(down_, down_ & ~button) & button) != 0) {
+            hands_.Release(form, at, button);
+        }
+    }
+}
+
+/// Where the pointer presses it has moved to first. A second button comes to one that holds something.
 /// The toolkit's widgets take a press and its release as one.
 void RandomUser::Press(Form& form, Point at, int button, int shift)
 {
+    hands_.Move(form, at);
+    if ((down_ & button) != 0 || form.Captured() == nullptr) {
+        LetGo(form, at);
+    }
     if (form.Captured() != nullptr || !IsToolkits(form.FrontMostAt(at.x, at.y))) {
+        down_ |= button;
+        holder_ = &form;
         hands_.Press(form, at, button, shift);
     }
 }
 
 void RandomUser::Release(Form& form, Point at, int button, int detail)
 {
+    hands_.Move(form, at);
     Control* const control = form.FrontMostAt(at.x, at.y);
-    if (form.Captured() != nullptr || !IsToolkits(control)) {
-        hands_.Release(form, at, button);
-    } else {
+    if (form.Captured() == nullptr && IsToolkits(control)) {
+        LetGo(form, at);
         hands_.Work(*control, button, detail);
-        hands_.Move(form, at);
+    } else if ((std::exchange(down_, down_ & ~button) & button) != 0) {
+        hands_.Release(form, at, button);
     }
 }
 
@@ -232,11 +255,13 @@ void RandomUser::Drag(Form& form, const Control& control, Point at, const Gestur
 
 void RandomUser::Do(const Gesture& gesture)
 {
-    static constexpr std::array buttons = {LeftButton, RightButton, MiddleButton};
     Form& form = Target(gesture);
     Control& control = Aim(form, gesture.control);
     const Point at = PointOn(control, gesture);
-    const int button = buttons[gesture.detail % buttons.size()];
+    const int button = Buttons[gesture.detail % Buttons.size()];
+    if (std::exchange(modal_, form.AllForms().Modal()) != form.AllForms().Modal()) {
+        LetGo(form, at); // nobody goes on holding the mouse where a box comes up
+    }
     const auto click = [&](int which) {
         Press(form, at, which, 0);
         if (form.IsShown()) {

@@ -100,7 +100,12 @@ protected:
 class HeadlessHands : public Hands
 {
 public:
-    explicit HeadlessHands(HeadlessPlatform& platform) : platform_(platform) { MeetNext(); }
+    /// The folder is where files are chosen.
+    HeadlessHands(HeadlessPlatform& platform, std::string folder)
+        : platform_(platform), folder_(std::move(folder))
+    {
+        MeetNext();
+    }
 
     void Press(Form& form, Point at, int button, int shift) override;
     void Move(Form& form, Point at) override { platform_.MoveMouse(form, at.x, at.y); }
@@ -126,6 +131,7 @@ private:
     void MeetNext();
 
     HeadlessPlatform& platform_;
+    std::string folder_;
 };
 
 class RandomUser
@@ -141,12 +147,16 @@ public:
 private:
     Form& Target(const Gesture& gesture) const;
     Control& Aim(Form& form, unsigned which) const;
+    void LetGo(Form& form, Point at);
     void Press(Form& form, Point at, int button, int shift);
     void Release(Form& form, Point at, int button, int detail);
     void Drag(Form& form, const Control& control, Point at, const Gesture& gesture);
 
     Form& main_;
     Hands& hands_;
+    int down_ = 0;           ///< buttons of the mouse
+    Form* holder_ = nullptr; ///< what they were pressed on
+    const Form* modal_ = nullptr;
 };
 
 template <class Visit> void ForEachShown(const Container& on, const Visit& visit)

@@ -17,6 +17,8 @@ public:
     /// The window's size changed, for whatever reason: notes the ratio of the new width to that of
     /// the last layout and starts the wait. Further changes during the wait are dropped.
     void Form_Resize();
+    /// Whether a layout waits for its time.
+    bool IsDue() const { return Timer3.Enabled(); }
 
 private:
     void Timer3_Timer();

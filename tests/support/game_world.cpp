@@ -59,8 +59,8 @@ GameWorld::GameWorld(std::uint64_t seed) : platform(seed), form(Prepared(platfor
     platform.sounds.clear();
 }
 
-GameWorld::GameWorld(Size screen, const std::string& scale)
-    : form((platform.screen = screen, Prepared(platform, scale)), "/app", "tessarine")
+GameWorld::GameWorld(Size screen, const std::string& scale, std::uint64_t seed)
+    : platform(seed), form((platform.screen = screen, Prepared(platform, scale)), "/app", "tessarine")
 {
     form.Start();
 }

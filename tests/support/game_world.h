@@ -30,7 +30,7 @@ public:
     using Position = tessarine::test::Position;
     explicit GameWorld(const Position& position);
     /// On a screen of this size, with this scale of the table stored.
-    GameWorld(Size screen, const std::string& scale);
+    GameWorld(Size screen, const std::string& scale, std::uint64_t seed = 1);
 
     HeadlessPlatform platform;
     Form1 form;

@@ -31,8 +31,9 @@ Position NearTheEnd(std::mt19937 random)
 class Storm
 {
 public:
-    Storm(Stage& stage, unsigned seed, const std::vector<Gesture>& gestures, StormCount& count)
-        : gestures_(gestures), count_(count), form_(stage.form()), hands_(stage.hands())
+    Storm(Stage& stage, unsigned seed, const std::vector<Gesture>& gestures, StormCount& count,
+          const std::function<std::string(std::size_t)>& look)
+        : gestures_(gestures), count_(count), look_(look), form_(stage.form()), hands_(stage.hands())
     {
         if (seed % 3 == 0) {
             Arrange(form_, NearTheEnd(std::mt19937(seed)));
@@ -45,7 +46,8 @@ public:
         };
         hands_.Meet = [this](Form& form) {
             if (GoesOn()) {
-                return PlayNext();
+                PlayNext();
+                return form.IsShown() ? Look() : void();
             }
             form.FeedClose();
             form.Hide();
@@ -56,16 +58,13 @@ public:
         };
     }
 
-    std::string Run(const std::function<std::string(std::size_t)>& look)
+    std::string Run()
     {
         while (GoesOn()) {
             PlayNext();
             hands_.Wait(0);
             LookAround();
-            if (look && GoesOn()) {
-                hands_.Settle();
-                ExpectNone(look(next_));
-            }
+            Look();
         }
         if (!hands_.HasEnded()) {
             form_.FeedMouseLost();
@@ -83,6 +82,14 @@ private:
     }
     void ExpectNone(const std::string& fault) { Expect(fault.empty(), fault); }
     bool GoesOn() const { return next_ < gestures_.size() && fault_.empty() && !hands_.HasEnded(); }
+
+    void Look()
+    {
+        if (look_ && GoesOn()) {
+            hands_.Settle();
+            ExpectNone(look_(next_));
+        }
+    }
 
     void PlayNext()
     {
@@ -146,6 +153,7 @@ private:
 
     const std::vector<Gesture>& gestures_;
     StormCount& count_;
+    const std::function<std::string(std::size_t)>& look_;
     Form1& form_;
     Hands& hands_;
     std::size_t next_ = 0;
@@ -159,7 +167,7 @@ private:
 std::string PlayStorm(Stage& stage, unsigned seed, const std::vector<Gesture>& gestures,
                       StormCount& count, const std::function<std::string(std::size_t)>& look)
 {
-    return Storm(stage, seed, gestures, count).Run(look);
+    return Storm(stage, seed, gestures, count, look).Run();
 }
 
 } // namespace tessarine::test
