@@ -12,7 +12,6 @@
 #include <deque>
 #include <map>
 #include <random>
-#include <ranges>
 #include <set>
 
 namespace tessarine
@@ -261,7 +260,8 @@ TEST_F(PaintingTest, EveryPixelShowsTheFrontMostOfWhatLiesThere)
                 }
             }
             const auto mayBe = [&](QPoint at, QRgb pixel) {
-                for (const auto& [front, rect] : std::ranges::reverse_view(seen)) {
+                for (auto place = seen.rbegin(); place != seen.rend(); ++place) {
+                    const auto& [front, rect] = *place;
                     if (rect.contains(at) && front == nullptr) {
                         return pixel == Pixel(Face);
                     }
