@@ -145,12 +145,14 @@ std::string WrongPixel(DesktopStage& stage, const std::vector<Spot>& spots, Stor
     FormWindow& window = *stage.platform().WindowOf(stage.form());
     const QImage image = window.screen()->grabWindow(window.winId()).toImage();
     const double ratio = window.devicePixelRatioF();
+    const QRect screen = window.screen()->geometry().adjusted(1, 1, -1, -1);
     const PictureBox& surface = stage.form().table.Picture2;
     const QPoint corner(Pixel(surface.Left(), ratio), Pixel(surface.Top(), ratio));
     const int bottom = Pixel(surface.Top() + surface.Height(), ratio);
     for (const Spot& spot : spots) {
         const QPoint at = corner + QPoint(spot.x, spot.y);
-        if (!image.valid(at) || at.y() >= bottom) {
+        const bool isOnScreen = screen.contains(window.mapToGlobal((QPointF(at) / ratio).toPoint()));
+        if (!image.valid(at) || at.y() >= bottom || !isOnScreen) {
             continue;
         }
         ++count.pixels;

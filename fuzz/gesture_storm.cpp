@@ -26,6 +26,7 @@ constexpr unsigned LongestSeconds = 60;
 bool Survives(unsigned seed, const std::vector<Gesture>& gestures, StormCount& count)
 {
     count.owed = 0;
+    std::fflush(stdout); // a child would print it as well
     const pid_t child = fork();
     if (child == 0) {
         alarm(LongestSeconds);
