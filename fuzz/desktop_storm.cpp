@@ -73,6 +73,9 @@ int Pixel(Twips place, double ratio)
     return static_cast<int>(std::floor(place * ratio / TwipsPerPixel + 0.5));
 }
 
+/// On narrower cards the text fills them.
+constexpr Twips SmallestWithCorners = 300;
+
 /// The four corners of each item that lie open, just inside its border, where no text comes.
 std::vector<Spot> SpotsOf(const Form1& form, double ratio)
 {
@@ -101,7 +104,8 @@ std::vector<Spot> SpotsOf(const Form1& form, double ratio)
             for (const int x : {area.left + border, area.right - border - 1}) {
                 for (const int y : {area.top + border, area.bottom - border - 1}) {
                     const auto hides = [&](const Area& other) { return other.Has(x, y); };
-                    if (light && std::ranges::none_of(before, hides)) {
+                    if (light && item.Width() >= SmallestWithCorners &&
+                        std::ranges::none_of(before, hides)) {
                         spots.push_back({x, y, item.BackColor()});
                     }
                 }
