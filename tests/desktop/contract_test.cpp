@@ -20,7 +20,7 @@ public:
     std::string WritableFolder() { return PathToBytes(folder_.path() + QLatin1Char('/')); }
     std::int64_t Milliseconds() { return clock_.elapsed(); }
     void LetTimePass(int milliseconds) { QTest::qWait(milliseconds); }
-    void WhenModal(std::function<void()> user) { tessarine::WhenModal(std::move(user)); }
+    void WhenModal(const std::function<void()>& user) { tessarine::WhenModal(user); }
     void Click(Control& control) { Mouse(platform_, QTest::MouseClick, control, MiddleOf(control)); }
     void MakeRefuse(Form& form)
     {

@@ -144,6 +144,7 @@ TEST_F(WidgetsTest, OptionsTurnOnlyAsTheirControlsDo)
 
 TEST_F(WidgetsTest, CaseIsFoldedAsTheToolkitFoldsIt)
 {
+    EXPECT_EQ(ToText("\xC9TE"), ToText("\u00C9TE")) << "Latin-1 is read as well";
     for (char32_t letter = 1; letter < 0x2000; ++letter) {
         const QString text = QString::fromUcs4(&letter, 1);
         const QChar::Script script = QChar::script(letter);
