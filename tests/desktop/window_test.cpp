@@ -97,8 +97,8 @@ TEST_F(WindowTest, AWindowHasTheTitleTheIconAndTheButtonsOfItsFrame)
         form.HasCloseBox = has;
         form.Sizable = has;
         form.Show();
-        QTest::qWait(20);
         QWidget& window = *platform.WindowOf(form);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !window.windowIcon().isNull(); }));
         EXPECT_EQ(window.windowTitle(), QStringLiteral("test"));
         EXPECT_EQ(window.windowIcon().pixmap(128).toImage().pixelColor(127, 127), QColor(Qt::white));
         EXPECT_EQ(window.windowFlags().testFlag(Qt::WindowCloseButtonHint), has);
