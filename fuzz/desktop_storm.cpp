@@ -151,12 +151,12 @@ std::string WrongPixel(DesktopStage& stage, const std::vector<Spot>& spots, Stor
     const double ratio = window.devicePixelRatioF();
     const QRect screen = window.screen()->geometry().adjusted(1, 1, -1, -1);
     const PictureBox& surface = stage.form().table.Picture2;
-    const QPoint corner(Pixel(surface.Left(), ratio), Pixel(surface.Top(), ratio));
-    const int bottom = Pixel(surface.Top() + surface.Height(), ratio);
+    const QRect inside(QPoint(Pixel(surface.Left(), ratio), Pixel(surface.Top(), ratio)),
+                       QSize(Pixel(surface.Width(), ratio), Pixel(surface.Height(), ratio)));
     for (const Spot& spot : spots) {
-        const QPoint at = corner + QPoint(spot.x, spot.y);
+        const QPoint at = inside.topLeft() + QPoint(spot.x, spot.y);
         const bool isOnScreen = screen.contains(window.mapToGlobal((QPointF(at) / ratio).toPoint()));
-        if (!image.valid(at) || at.y() >= bottom || !isOnScreen) {
+        if (!image.valid(at) || !inside.contains(at) || !isOnScreen) {
             continue;
         }
         ++count.pixels;
