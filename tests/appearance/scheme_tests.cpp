@@ -228,6 +228,7 @@ TEST_F(OptionsDialog, CardColoursAndSoundAreTakenOverAtOnce)
 {
     dialog.NumCol[2].UserPicks();
     dialog.ColPik2.SetSchemeColor(Rgb(1, 2, 3));
+    EXPECT_EQ(dialog.NumCol[2].BackColor(), Rgb(1, 2, 3));
     EXPECT_EQ(module.SuitColor[2], Rgb(1, 2, 3));
     dialog.NumCol[5].UserPicks();
     EXPECT_TRUE(dialog.NumCol[2].Value()) << "the options of two frames are two groups";

@@ -55,6 +55,7 @@ void Look(const Container& on, const Dress& dress, std::vector<std::string>& loo
             text << " ~ " << control->ToolTip();
         }
         text << (control->Visible() ? "" : " hidden");
+        text << (control->IsLight() || !control->ToolTip().empty() ? "" : " untold");
         std::string line = text.str();
         std::ranges::replace(line, ';', ',');
         look.push_back(line);
@@ -72,54 +73,55 @@ TEST(LookTest, EveryControlHasItsWordsAndItsPlace)
 Tessarine 3960 7710 sizable; Load Saved Game 30 30 360 360 b; Save Game 390 30 360 360 b; Scores 750 30
 360 360 b; Options 1110 30 360 360 b; New Game 1470 30 360 360 b; Restore current game 1830 30 360 360
 b; About 2190 30 360 360 b; Help 2550 30 360 360 b; Exit 2910 30 360 360 b; Undo 3270 30 360 360 b;
-Table 30 450 3905 7115; [; Turn the stock back 445 193.75 202.5 202.5 b; Turn the stock 647.5 193.75
-202.5 202.5 b; Scores 450 690 3795 2985 hidden; [; tessarine Scores 60 60 3675 2865; [; Played 90 600
-1005 225 Arial 9 bold #ffffff on 0; Won 90 855 1005 255 Arial 9 bold #ffffff on 0; Drawn 90 1140 1005
-255 Arial 9 bold #ffffff on 0; Lost 90 1425 1005 255 Arial 9 bold #ffffff on 0; This Session 1215 300
-1275 255 Arial 9 bold #ffffff on 0; Total 2565 300 1005 255 Arial 9 bold #ffffff on 0; Played this
-session: 0 1215 600 900 255 Courier New 9; Played total: 0 2565 600 900 255 Courier New 9; Won this
-session: 0 1215 885 900 255 Courier New 9; Won total: 0 2565 885 900 255 Courier New 9; Drawn this
-session: 0 1215 1170 900 255 Courier New 9; Drawn total: 0 2565 1170 900 255 Courier New 9; Lost this
-session: 0 1215 1455 900 255 Courier New 9; Lost total: 0 2565 1455 900 255 Courier New 9; Last Update:
-14Mar2008 90 1890 3465 345 Courier New 9 on 8000000f; Close 750 2340 1095 405; Clear 1845 2340 1095
-405; ]; ]; ]; Tessarine Options 9120 4155 beside; Colour Scheme 60 60 4335 3210 ~ The colours of the table,
-the buttons and this dialog; [; Background colour 150 270 2025 1635 on ffffff ~ Background colour of a
-new scheme: View shows it; [; Background colour: Red 1050 25 250 1126 by 1 or 1 on 8000000f ~ Red: 120;
-Background colour: Green 1395 25 250 1126 by 1 or 1 on 8000000f ~ Green: 170; Background colour: Blue
-1725 25 250 1126 by 1 or 1 on 8000000f ~ Blue: 120; - 1065 1170 225 195 Arial 7 on 78; - 1395 1170 225
-195 Arial 7 on aa00; - 1755 1170 225 195 Arial 7 on 780000; 120 1050 1380 270 210 Arial 7 #ff on
-ffffff; 170 1380 1380 285 210 Arial 7 #c000 on ffffff; 120 1725 1380 270 210 Arial 7 #ff0000 on ffffff;
-Selected 60 1380 645 165 Arial 7 on ffffff; - 788 1380 225 195 Arial 7; ]; Contrast 106 2010 2064 228
-by 5 or 20 on 8000000f ~ Contrast: 100; View 60 2340 1005 375 b ~ Show the scheme of this background
-and contrast, in this dialog only; Replace 1110 2340 1005 375 b ~ Store the colours on show in place of
-the selected scheme; Delete 60 2715 1005 375 b ~ Remove the selected scheme; Add 1110 2715 1005 375 b ~
-Store the colours on show as a new scheme; Colour schemes 2295 240 1920 2805 Courier New 8.25 ~ Pick a
-scheme, then press Apply; ]; Sound 2370 3300 2025 825 ~ Sounds of the game; [; Sound: yes 270 330 1425
-285 ~ Play sounds; ]; Apply 210 3540 1005 375 b ~ Dress the table in the selected scheme and font; Exit
-1215 3540 1005 375 b ~ Close the dialog, nothing is taken back; Card Colour 4485 60 2265 4065 ~ The
-colours of the cards; [; Card colour 120 270 2025 1605 on ffffff ~ Colour of the cards or numbers
-selected below; [; Card colour: Red 1050 25 250 1126 by 1 or 1 on 8000000f ~ Red: 220; Card colour:
-Green 1395 25 250 1126 by 1 or 1 on 8000000f ~ Green: 220; Card colour: Blue 1725 25 250 1126 by 1 or 1
-on 8000000f ~ Blue: 220; - 1065 1170 225 195 Arial 7 on dc; - 1395 1170 225 195 Arial 7 on dc00; - 1755
-1170 225 195 Arial 7 on dc0000; 220 1050 1380 270 210 Arial 7 #ff on ffffff; 220 1380 1380 285 210
-Arial 7 #c000 on ffffff; 220 1725 1380 270 210 Arial 7 #ff0000 on ffffff; Selected 60 1380 645 165
-Arial 7 on ffffff; - 788 1380 225 195 Arial 7 on dcdcdc; ]; Numbers 120 1950 2025 1545 ~ Which cards
-take the colour; [; Colour 1, suit S = Colour 1 120 270 1800 210 on 0; Colour 2, suit H = Colour 2 120
-510 1800 210 on 800000; Colour 3, suit D = Colour 3 120 750 1800 210 on 8000; Colour 4, suit C = Colour
-4 120 990 1800 210 on 8080; Colour 5, suit O = Colour 5 120 1230 1800 210 on 80; ]; Reset 270 3570 1005
-375 b ~ Give the cards five plain colours and the font Arial, and apply that; ]; Font 6840 60 2235 4065
-~ The font of the numbers, with a sample; [; Fonts 180 300 1845 2370 Courier New 8.25 ~ Pick a font,
-then press Apply; Sample of the font 750 2880 645 585 arial 24 bold; Colour of the numbers = Colour 210
-3630 1800 210 on ffffff; ]; Tessarine Help 7185 5625 sizable beside; Back 60 30 1095 375 b; Forward 1155 30
-1095 375 b; Exit 2244 30 1095 375 b; Help page 60 480 7125 5145 on 8000000f; About Tessarine 6135 3120;
-Tessarine - March 2008 A variant of Halvard card game Uses a numbers deck instead of standard card deck
-30 30 5505 2700; - 5616 96 480 432 on 8000000f; Version 1.0 30 2760 5520 315 b; OK 5610 2745 450 330
-Arial 7.5 b; Tessarine 2535 1305 no close box; Hello 840 300 540 336 Ariel 9 #1c1c1c; - 90 90 480 480
-on 8000000f hidden; - 90 90 480 480 on 8000000f hidden; - 90 90 480 480 on 8000000f hidden; - 90 90 480
+Table 30 450 3905 7115 untold; [; Turn the stock back 445 193.75 202.5 202.5 b; Turn the stock 647.5
+193.75 202.5 202.5 b; Scores 450 690 3795 2985 hidden untold; [; tessarine Scores 60 60 3675 2865
+untold; [; Played 90 600 1005 225 Arial 9 bold #ffffff on 0; Won 90 855 1005 255 Arial 9 bold #ffffff
+on 0; Drawn 90 1140 1005 255 Arial 9 bold #ffffff on 0; Lost 90 1425 1005 255 Arial 9 bold #ffffff on
+0; This Session 1215 300 1275 255 Arial 9 bold #ffffff on 0; Total 2565 300 1005 255 Arial 9 bold
+#ffffff on 0; Played this session: 0 1215 600 900 255 Courier New 9; Played total: 0 2565 600 900 255
+Courier New 9; Won this session: 0 1215 885 900 255 Courier New 9; Won total: 0 2565 885 900 255
+Courier New 9; Drawn this session: 0 1215 1170 900 255 Courier New 9; Drawn total: 0 2565 1170 900 255
+Courier New 9; Lost this session: 0 1215 1455 900 255 Courier New 9; Lost total: 0 2565 1455 900 255
+Courier New 9; Last Update: 14Mar2008 90 1890 3465 345 Courier New 9 on 8000000f; Close 750 2340 1095
+405 untold; Clear 1845 2340 1095 405 untold; ]; ]; ]; Tessarine Options 9120 4155 beside; Colour Scheme
+60 60 4335 3210 ~ The colours of the table, the buttons and this dialog; [; Background colour 150 270
+2025 1635 on ffffff ~ Background colour of a new scheme: View shows it; [; Background colour: Red 1050
+25 250 1126 by 1 or 1 on 8000000f ~ Red: 120; Background colour: Green 1395 25 250 1126 by 1 or 1 on
+8000000f ~ Green: 170; Background colour: Blue 1725 25 250 1126 by 1 or 1 on 8000000f ~ Blue: 120; -
+1065 1170 225 195 Arial 7 on 78; - 1395 1170 225 195 Arial 7 on aa00; - 1755 1170 225 195 Arial 7 on
+780000; 120 1050 1380 270 210 Arial 7 #ff on ffffff; 170 1380 1380 285 210 Arial 7 #c000 on ffffff; 120
+1725 1380 270 210 Arial 7 #ff0000 on ffffff; Selected 60 1380 645 165 Arial 7 on ffffff; - 788 1380 225
+195 Arial 7; ]; Contrast 106 2010 2064 228 by 5 or 20 on 8000000f ~ Contrast: 100; View 60 2340 1005
+375 b ~ Show the scheme of this background and contrast, in this dialog only; Replace 1110 2340 1005
+375 b ~ Store the colours on show in place of the selected scheme; Delete 60 2715 1005 375 b ~ Remove
+the selected scheme; Add 1110 2715 1005 375 b ~ Store the colours on show as a new scheme; Colour
+schemes 2295 240 1920 2805 Courier New 8.25 ~ Pick a scheme, then press Apply; ]; Sound 2370 3300 2025
+825 ~ Sounds of the game; [; Sound: yes 270 330 1425 285 ~ Play sounds; ]; Apply 210 3540 1005 375 b ~
+Dress the table in the selected scheme and font; Exit 1215 3540 1005 375 b ~ Close the dialog, nothing
+is taken back; Card Colour 4485 60 2265 4065 ~ The colours of the cards; [; Card colour 120 270 2025
+1605 on ffffff ~ Colour of the cards or numbers selected below; [; Card colour: Red 1050 25 250 1126 by
+1 or 1 on 8000000f ~ Red: 220; Card colour: Green 1395 25 250 1126 by 1 or 1 on 8000000f ~ Green: 220;
+Card colour: Blue 1725 25 250 1126 by 1 or 1 on 8000000f ~ Blue: 220; - 1065 1170 225 195 Arial 7 on
+dc; - 1395 1170 225 195 Arial 7 on dc00; - 1755 1170 225 195 Arial 7 on dc0000; 220 1050 1380 270 210
+Arial 7 #ff on ffffff; 220 1380 1380 285 210 Arial 7 #c000 on ffffff; 220 1725 1380 270 210 Arial 7
+#ff0000 on ffffff; Selected 60 1380 645 165 Arial 7 on ffffff; - 788 1380 225 195 Arial 7 on dcdcdc; ];
+Numbers 120 1950 2025 1545 ~ Which cards take the colour; [; Colour 1, suit S = Colour 1 120 270 1800
+210 on 0; Colour 2, suit H = Colour 2 120 510 1800 210 on 800000; Colour 3, suit D = Colour 3 120 750
+1800 210 on 8000; Colour 4, suit C = Colour 4 120 990 1800 210 on 8080; Colour 5, suit O = Colour 5 120
+1230 1800 210 on 80; ]; Reset 270 3570 1005 375 b ~ Give the cards five plain colours and the font
+Arial, and apply that; ]; Font 6840 60 2235 4065 ~ The font of the numbers, with a sample; [; Fonts 180
+300 1845 2370 Courier New 8.25 ~ Pick a font, then press Apply; Sample of the font 750 2880 645 585
+arial 24 bold; Colour of the numbers = Colour 210 3630 1800 210 on ffffff; ]; Tessarine Help 7185 5625
+sizable beside; Back 60 30 1095 375 b untold; Forward 1155 30 1095 375 b untold; Exit 2244 30 1095 375
+b untold; Help page 60 480 7125 5145 on 8000000f untold; About Tessarine 6135 3120; Tessarine - March
+2008 A variant of Halvard card game Uses a numbers deck instead of standard card deck 30 30 5505 2700
+untold; - 5616 96 480 432 on 8000000f; Version 1.0 30 2760 5520 315 b; OK 5610 2745 450 330 Arial 7.5 b
+untold; Tessarine 2535 1305 no close box; Hello 840 300 540 336 Ariel 9 #1c1c1c; - 90 90 480 480 on
+8000000f hidden; - 90 90 480 480 on 8000000f hidden; - 90 90 480 480 on 8000000f hidden; - 90 90 480
 480 on 8000000f hidden; - 90 90 480 480 on 8000000f hidden; - 90 90 480 480 on 8000000f hidden; - 90 90
 480 480 on 8000000f hidden; - 90 90 480 480 on 8000000f hidden; - 90 90 480 480 on 8000000f hidden; -
-90 90 480 480 on 8000000f hidden; - 90 90 480 480 on 8000000f hidden; Yes 0 756 885 350 Ariel 9 b; No
-885 756 885 350 Ariel 9 b; Cancel 1770 756 885 350 Ariel 9 b)");
+90 90 480 480 on 8000000f hidden; - 90 90 480 480 on 8000000f hidden; Yes 0 756 885 350 Ariel 9 b
+untold; No 885 756 885 350 Ariel 9 b untold; Cancel 1770 756 885 350 Ariel 9 b untold)");
     GameWorld world;
     world.platform.AnswerModal("Cancel");
     world.form.msgForm.MsgboxA("Hello", "vbyesnocancel");
