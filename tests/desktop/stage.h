@@ -53,11 +53,16 @@ inline QWidget& WidgetOf(const DesktopPlatform& platform, const Control& control
     return window;
 }
 
+/// How many users wait for a modal window.
+inline int usersWaiting = 0;
+
 /// Runs `user` as soon as the next modal window is open.
 inline void WhenModal(const std::function<void()>& user,
                       const QWidget* before = QApplication::activeModalWidget())
 {
+    ++usersWaiting;
     QTimer::singleShot(2, qApp, [=] {
+        --usersWaiting;
         QApplication::activeModalWidget() == before ? WhenModal(user, before) : user();
     });
 }
