@@ -58,6 +58,10 @@ protected:
             painter.PaintChildren(frame, std::nullopt);
         }
     }
+    // The mouse is the form's, the release as well as the press: the toolkit's box keeps it for itself.
+    void mousePressEvent(QMouseEvent* event) override { event->ignore(); }
+    void mouseMoveEvent(QMouseEvent* event) override { event->ignore(); }
+    void mouseReleaseEvent(QMouseEvent* event) override { event->ignore(); }
 };
 
 /// The number of another mouse button than the left one, released over the widget; 0 if it is not

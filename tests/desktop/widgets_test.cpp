@@ -21,6 +21,17 @@ namespace
 
 using WidgetsTest = DesktopTest;
 
+TEST_F(WidgetsTest, AFrameKeepsNothingOfTheMouse)
+{
+    Frame frame;
+    frame.SetBounds(0, 0, 1500, 1500);
+    Show({&frame});
+    Press(frame, {50, 50});
+    EXPECT_EQ(form.Captured(), &frame);
+    Release(frame, {50, 50});
+    EXPECT_EQ(form.Captured(), nullptr);
+}
+
 TEST_F(WidgetsTest, AListShowsAsChosenWhatItsControlSaysAndNothingElse)
 {
     const std::string wide(80, 'w');
