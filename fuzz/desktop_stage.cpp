@@ -195,12 +195,13 @@ void DesktopHands::Activate(Control& control)
     if (tool->actionInterface() != nullptr) {
         tool->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     }
-    while (auto* const button = qobject_cast<QPushButton*>(widget.data())) {
-        Wait(0); // it goes down for a while first
-        if (!button->isDown()) {
-            break;
-        }
-    }
+    const auto isDown = [&widget] {
+        const auto* const button = qobject_cast<QPushButton*>(widget.data());
+        return button != nullptr && button->isDown();
+    };
+    do { // it is done in a moment, and a button of the toolkit goes down for a while first
+        Wait(0);
+    } while (isDown());
 }
 
 void DesktopHands::AskForNames(const Forms& forms)
