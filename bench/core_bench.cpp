@@ -49,7 +49,9 @@ void RandomGame(benchmark::State& state)
     unsigned seed = 0;
     for (auto _ : state) {
         ++seed;
-        PlayStorm(seed, RandomGestures(seed, 400));
+        HeadlessStage stage(seed);
+        StormCount count;
+        PlayStorm(stage, seed, RandomGestures(seed, 400), count);
     }
 }
 BENCHMARK(RandomGame)->Unit(benchmark::kMillisecond);
