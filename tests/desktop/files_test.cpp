@@ -62,7 +62,7 @@ TEST(DesktopClock, NamesTheMonthsWithThreeLettersInEveryLanguage)
         for (int month = 1; month <= 12; ++month) {
             const std::string name = ShortMonth(locale, month);
             const auto letters = ToText(name).toUcs4();
-            EXPECT_TRUE(letters.size() > 0 && letters.size() <= 3) << name;
+            EXPECT_TRUE(!letters.empty() && letters.size() <= 3) << name;
             EXPECT_TRUE(std::ranges::none_of(letters, [](uint one) { return QChar::isSpace(one); }))
                 << name;
         }
