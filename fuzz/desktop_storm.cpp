@@ -152,7 +152,7 @@ std::string WrongPixel(DesktopStage& stage, const std::vector<Spot>& spots, Stor
     const QRect screen = window.screen()->geometry().adjusted(1, 1, -1, -1);
     const PictureBox& surface = stage.form().table.Picture2;
     const QRect inside(QPoint(Pixel(surface.Left(), ratio), Pixel(surface.Top(), ratio)),
-                       QSize(Pixel(surface.Width(), ratio), Pixel(surface.Height(), ratio)));
+                       QSize(Pixel(surface.Width(), ratio) - 1, Pixel(surface.Height(), ratio) - 1));
     for (const Spot& spot : spots) {
         const QPoint at = inside.topLeft() + QPoint(spot.x, spot.y);
         const bool isOnScreen = screen.contains(window.mapToGlobal((QPointF(at) / ratio).toPoint()));
