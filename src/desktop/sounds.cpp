@@ -105,12 +105,11 @@ private:
         return player_->Begin(wish.path, [this] { CountAsHeard(); });
     }
 
+    /// Tells it with the lock in hand: whoever waits for the last sound ends the queue right after.
     void CountAsHeard()
     {
-        {
-            const std::lock_guard lock(mutex_);
-            --unheard_;
-        }
+        const std::lock_guard lock(mutex_);
+        --unheard_;
         changed_.notify_all();
     }
 
