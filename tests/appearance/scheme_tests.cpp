@@ -251,8 +251,10 @@ TEST_F(OptionsDialog, AFontIsASampleUntilApplyAndResetAsksFirst)
     dialog.List2.UserPicks(1);
     EXPECT_EQ(dialog.Label1.Font(), (Font{.name = "Courier New", .size = 24}));
     EXPECT_EQ(module.CardFont, "arial");
+    world.Arrange({.stock = {30}, .piles = {{0}}});
     Press(dialog.command3);
     EXPECT_EQ(module.CardFont, "Courier New");
+    EXPECT_EQ(world.table.cardy[0].Font().name, "Courier New") << "a finished pile is drawn anew";
     PickScheme("slate");
     platform.AnswerModal("No");
     Press(dialog.cmdreset);

@@ -33,6 +33,9 @@ void Look(const Container& on, const Dress& dress, std::vector<std::string>& loo
         if (option != nullptr && option->Caption() != words) {
             text << " = " << option->Caption();
         }
+        if (const auto* const check = dynamic_cast<const CheckBox*>(control)) {
+            text << " = " << check->Caption();
+        }
         for (const Twips number :
              {control->Left(), control->Top(), control->Width(), control->Height()}) {
             text << ' ' << number;
@@ -96,7 +99,7 @@ Courier New 9; Last Update: 14Mar2008 90 1890 3465 345 Courier New 9 on 8000000f
 375 b ~ Store the colours on show in place of the selected scheme; Delete 60 2715 1005 375 b ~ Remove
 the selected scheme; Add 1110 2715 1005 375 b ~ Store the colours on show as a new scheme; Colour
 schemes 2295 240 1920 2805 Courier New 8.25 ~ Pick a scheme, then press Apply; ]; Sound 2370 3300 2025
-825 ~ Sounds of the game; [; Sound: yes 270 330 1425 285 ~ Play sounds; ]; Apply 210 3540 1005 375 b ~
+825 ~ Sounds of the game; [; Sound: yes = Yes 270 330 1425 285 ~ Play sounds; ]; Apply 210 3540 1005 375 b ~
 Dress the table in the selected scheme and font; Exit 1215 3540 1005 375 b ~ Close the dialog, nothing
 is taken back; Card Colour 4485 60 2265 4065 ~ The colours of the cards; [; Card colour 120 270 2025
 1605 on ffffff ~ Colour of the cards or numbers selected below; [; Card colour: Red 1050 25 250 1126 by

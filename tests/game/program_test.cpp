@@ -218,6 +218,14 @@ TEST(DiskTest, TellsWhichFileAndWhy)
             EXPECT_EQ(told, Texts{"Critical: Game could not be saved:\r\n" + std::string(file) + "\r\n" +
                                   words + ". The game on the table goes on."});
         }
+        GameWorld world;
+        Texts told;
+        Agree(world.platform, told);
+        world.platform.chosenFiles = {"/app/x.gam"};
+        world.platform.ResetFileOperations(0, true, why);
+        world.Press(world.form.cmdLoadGame);
+        EXPECT_EQ(told, Texts{"Critical: Game could not be loaded from file:\r\n/app/x.gam\r\n" + words +
+                              ". The game on the table goes on."});
     }
 }
 
