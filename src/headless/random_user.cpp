@@ -237,8 +237,10 @@ void RandomUser::Release(Form& form, Point at, int button, int detail)
     hands_.Move(form, at);
     Control* const control = form.FrontMostAt(at.x, at.y);
     if (form.Captured() == nullptr && IsToolkits(control)) {
-        LetGo(form, at);
-        hands_.Work(*control, button, detail);
+        LetGo(form, at); // which may hide it
+        if (form.IsShown() && form.FrontMostAt(at.x, at.y) == control) {
+            hands_.Work(*control, button, detail);
+        }
     } else if ((std::exchange(down_, down_ & ~button) & button) != 0) {
         hands_.Release(form, at, button);
     }
