@@ -147,7 +147,7 @@ QWidget& DesktopHands::WidgetOf(const Control& control) const
 void DesktopHands::Work(Control& control, int button, int detail)
 {
     QWidget& widget = WidgetOf(control);
-    QPoint at = widget.rect().center();
+    QPoint at = widget.visibleRegion().boundingRect().center(); // a part may lie outside of the window
     if (auto* bar = dynamic_cast<ScrollBar*>(&control)) {
         auto* const tool = QAccessible::queryAccessibleInterface(&widget);
         tool->valueInterface()->setCurrentValue(bar->Min() + detail * (bar->Max() - bar->Min()) / 256);
