@@ -193,15 +193,17 @@ void DesktopHands::Activate(Control& control)
     const QPointer<QWidget> widget(&WidgetOf(control));
     auto* const tool = QAccessible::queryAccessibleInterface(widget);
     if (tool->actionInterface() != nullptr) {
+        const QScopedValueRollback working(working_, working_ + 1);
         tool->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        QCoreApplication::sendPostedEvents(widget, QEvent::MetaCall); // where it is done in a moment
     }
     const auto isDown = [&widget] {
         const auto* const button = qobject_cast<QPushButton*>(widget.data());
         return button != nullptr && button->isDown();
     };
-    do { // it is done in a moment, and a button of the toolkit goes down for a while first
+    while (isDown()) { // a button of the toolkit goes down for a while first
         Wait(0);
-    } while (isDown());
+    }
 }
 
 void DesktopHands::AskForNames(const Forms& forms)
