@@ -19,7 +19,7 @@ Form1::Form1(Platform& platform, const std::string& programPath, const std::stri
       gestures({table, hand, ring, drops, undo, automove}), scaling(table, NextCard),
       resizing(table, scaling, door), configuration(platform, shared.AppDir, shared, msgForm),
       gameFile(table, deal, scaling, ring), snapshot(table, gameFile),
-      gameCommands({table, deal, scaling, ring, undo, gameFile, snapshot, Score1, msgForm, gf1}),
+      gameCommands({table, deal, scaling, ring, gameFile, snapshot, Score1, msgForm, gf1}),
       schemeStore(shared, msgForm), form6(list, shared, schemeStore, msgForm, sound, Command2),
       programCommands({*this, form6, form4, aboutForm, msgForm, configuration, Score1, shared, sound})
 {
@@ -154,8 +154,6 @@ void Form1::Form_Load()
 
 void Form1::DressMessageBox()
 {
-    msgForm.SetBackColor(ButtonFace);
-    msgForm.ButtonColour = ButtonFace;
     msgForm.SetFont({"Ariel", 9, false, false, false});
     msgForm.SetForeColor(PaletteColour(0));
     msgForm.SetCaption(GameTitle);

@@ -205,23 +205,20 @@ void Browser::Navigate(const std::string& path)
     GoTo({path, {}});
 }
 
-bool Browser::Step(bool isThere, std::size_t place)
+void Browser::GoBack()
 {
-    if (isThere) {
-        place_ = place;
+    if (place_ > 0) {
+        --place_;
         Visit();
     }
-    return isThere;
 }
 
-bool Browser::GoBack()
+void Browser::GoForward()
 {
-    return Step(place_ > 0, place_ - 1);
-}
-
-bool Browser::GoForward()
-{
-    return Step(place_ + 1 < history_.size(), place_ + 1);
+    if (place_ + 1 < history_.size()) {
+        ++place_;
+        Visit();
+    }
 }
 
 void Browser::UserFollows(const Address& address)

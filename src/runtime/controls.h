@@ -284,9 +284,9 @@ public:
 
     /// Loads the page anew, from its top. The address on show is no new step of the history.
     void Navigate(const std::string& path);
-    /// One step in the history; false at its end.
-    bool GoBack();
-    bool GoForward();
+    /// One step in the history; none at its end.
+    void GoBack();
+    void GoForward();
     /// The address on show; empty before the first.
     Address Location() const;
     /// The address on show as one text: a "#" stands before the anchor, and nowhere else. In the path
@@ -301,7 +301,6 @@ public:
 
 private:
     void GoTo(const Address& address);
-    bool Step(bool isThere, std::size_t place);
     void Visit();
 
     std::vector<Address> history_;

@@ -69,7 +69,6 @@ void GameCommands::cmdLoadGame_MouseUp()
     const Trouble notLoaded = WhileBusy(platform(), [&] {
         Trouble trouble = rooms_.gameFile.LoadCardOrder(name);
         if (!trouble) {
-            rooms_.undo.Clear();
             notTaken = rooms_.snapshot.Take();
         }
         return trouble;
@@ -93,7 +92,6 @@ void GameCommands::cmdreset_MouseUp()
         Complain("Game could not be restored from file:", *trouble);
         return;
     }
-    rooms_.undo.Clear();
     rooms_.messages.MsgboxA("Game restored", "vbok+vbinformation");
 }
 

@@ -10,7 +10,6 @@
 #include "table/deal.h"
 #include "table/stock_ring.h"
 #include "table/table.h"
-#include "table/undo.h"
 
 namespace tessarine
 {
@@ -24,7 +23,6 @@ public:
         Deal& deal;
         Scaling& scaling;
         StockRing& ring;
-        Undo& undo;
         GameFile& gameFile;
         Snapshot& snapshot;
         ScoresBox& scores;

@@ -7,15 +7,10 @@ namespace tessarine
 
 void Hand::PickUp(int card, PixelPoint cursor)
 {
-    const TextList& entries = table_.Stacks[table_.StackOf(card)];
-    const auto position = entries.Find(EntryOfCard(card));
-    if (!position) {
-        return;
-    }
     Forget();
-    for (std::size_t i = *position; i < entries.Count(); ++i) {
-        DragCards_.push_back(CardOfEntry(entries.At(i)));
-        table_.cardy[DragCards_.back()].BringToFront();
+    DragCards_ = table_.RunFrom(card);
+    for (const int taken : DragCards_) {
+        table_.cardy[taken].BringToFront();
     }
     const Label& head = table_.cardy[card];
     DragHomeLeft = RoundHalfEven(head.Left());

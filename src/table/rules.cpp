@@ -1,25 +1,19 @@
 #include "table/rules.h"
 
+#include <algorithm>
+#include <vector>
+
 namespace tessarine
 {
 
 Whole CanPickUp(const Table& table, int card)
 {
-    const int stack = table.StackOf(card);
-    if (stack >= FirstPile) {
-        return No;
-    }
-    const TextList& entries = table.Stacks[stack];
-    const auto position = entries.Find(EntryOfCard(card));
-    if (!position) {
-        return No;
-    }
-    for (std::size_t i = *position; i + 1 < entries.Count(); ++i) {
-        if (!FollowsInColumn(table, CardOfEntry(entries.At(i + 1)), CardOfEntry(entries.At(i)))) {
-            return No;
-        }
-    }
-    return Yes;
+    const auto doesNotFollow = [&table](int onto, int next) {
+        return !FollowsInColumn(table, next, onto);
+    };
+    const std::vector<int> run = table.RunFrom(card);
+    const bool isWhole = std::ranges::adjacent_find(run, doesNotFollow) == run.end();
+    return isWhole && !IsPile(table.StackOf(card)) ? Yes : No;
 }
 
 bool FollowsInColumn(const Table& table, int card, int onto)

@@ -1,5 +1,8 @@
 #include "table/table.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace tessarine
 {
 namespace
@@ -75,6 +78,15 @@ int Table::TopCard(int stack) const
 {
     const TextList& entries = Stacks[stack];
     return entries.IsEmpty() ? NoCard : CardOfEntry(entries.Back());
+}
+
+std::vector<int> Table::RunFrom(int card) const
+{
+    const TextList& entries = Stacks[StackOf(card)];
+    std::vector<int> run;
+    std::transform(std::ranges::find(entries, EntryOfCard(card)), entries.end(), std::back_inserter(run),
+                   CardOfEntry);
+    return run;
 }
 
 void Table::ShowCardFace(int card)

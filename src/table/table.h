@@ -10,6 +10,7 @@
 #include "table/module1.h"
 
 #include <string>
+#include <vector>
 
 namespace tessarine
 {
@@ -53,6 +54,9 @@ public:
     char CardSuit(int item) const;
     /// The last entry of a stack as a card; NoCard for an empty stack.
     int TopCard(int stack) const;
+    /// A card and all that lie on it in its stack, in that order. Of the stock it is all behind the
+    /// card, the marker as card 0.
+    std::vector<int> RunFrom(int card) const;
     bool IsFaceUp(int item) const { return !cardy[item].Caption().empty(); }
 
     /// Turns a card face-up or draws its face anew, then lets pending events run.
