@@ -366,9 +366,10 @@ bool HeadlessPlatform::PlainMessage(const std::string& text, PlainButtons button
     return answer;
 }
 
-std::string HeadlessPlatform::AskForText(const std::string& /*prompt*/)
+std::string HeadlessPlatform::AskForText(const std::string& prompt)
 {
     LetUserMeetBox();
+    plainMessages.push_back(prompt);
     if (typedAnswers.empty()) {
         return {};
     }

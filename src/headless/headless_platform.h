@@ -42,7 +42,7 @@ public:
 
     std::vector<std::string> sounds;        ///< paths as they came, oldest first
     std::string announced;                  ///< the latest of what a listener was told
-    std::vector<std::string> plainMessages; ///< texts of the system's own message box
+    std::vector<std::string> plainMessages; ///< texts of the system's own boxes
     std::vector<FileDialogRequest> fileDialogs;
     std::vector<std::string> modalCaptions; ///< captions of the modal forms that were run
     int unscriptedModals = 0;

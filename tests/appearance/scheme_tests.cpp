@@ -115,7 +115,7 @@ TEST_F(Schemes, AreAddedUnlessTheNameBeginsATakenOne)
     const std::string before = AllCol();
     platform.typedAnswers = {"", "GREY", "sl", "Greyer", "one", "two"};
     PickScheme("slate");
-    for (const char* const told : {"", "Color Scheme: GREY already exists",
+    for (const char* const told : {"Enter new Color Scheme name", "Color Scheme: GREY already exists",
                                    "Color Scheme: sl already exists", "Color Scheme: Greyer added"}) {
         EXPECT_EQ(Press(dialog.addsch), told);
     }

@@ -46,6 +46,9 @@ void Look(const Container& on, const Dress& dress, std::vector<std::string>& loo
         if (const auto* const bar = dynamic_cast<const ScrollBar*>(control)) {
             text << " by " << bar->SmallChange() << " or " << bar->LargeChange();
         }
+        if (const auto* const image = dynamic_cast<const Image*>(control)) {
+            text << (image->Visible() && image->Shown() == nullptr ? " blank" : "");
+        }
         if (const Colour colour = control->ForeColor(); colour > 0) {
             text << " #" << std::hex << colour;
         }
@@ -73,7 +76,7 @@ void Look(const Container& on, const Dress& dress, std::vector<std::string>& loo
 TEST(LookTest, EveryControlHasItsWordsAndItsPlace)
 {
     std::istringstream expected(R"(
-Tessarine 3960 7710 sizable; Load Saved Game 30 30 360 360 b; Save Game 390 30 360 360 b; Scores 750 30
+Tessarine 3960 7710 sizable with its boxes; Load Saved Game 30 30 360 360 b; Save Game 390 30 360 360 b; Scores 750 30
 360 360 b; Options 1110 30 360 360 b; New Game 1470 30 360 360 b; Restore current game 1830 30 360 360
 b; About 2190 30 360 360 b; Help 2550 30 360 360 b; Exit 2910 30 360 360 b; Undo 3270 30 360 360 b;
 Table 30 450 3905 7115 untold; [; Turn the stock back 445 193.75 202.5 202.5 b; Turn the stock 647.5
@@ -86,7 +89,7 @@ Courier New 9; Won this session: 0 1215 885 900 255 Courier New 9; Won total: 0 
 Courier New 9; Drawn this session: 0 1215 1170 900 255 Courier New 9; Drawn total: 0 2565 1170 900 255
 Courier New 9; Lost this session: 0 1215 1455 900 255 Courier New 9; Lost total: 0 2565 1455 900 255
 Courier New 9; Last Update: 14Mar2008 90 1890 3465 345 Courier New 9 on 8000000f; Close 750 2340 1095
-405 untold; Clear 1845 2340 1095 405 untold; ]; ]; ]; Tessarine Options 9120 4155 beside; Colour Scheme
+405 untold; Clear 1845 2340 1095 405 untold; ]; ]; ]; Tessarine Options 9120 4155 beside with its boxes; Colour Scheme
 60 60 4335 3210 ~ The colours of the table, the buttons and this dialog; [; Background colour 150 270
 2025 1635 on ffffff ~ Background colour of a new scheme: View shows it; [; Background colour: Red 1050
 25 250 1126 by 1 or 1 on 8000000f ~ Red: 120; Background colour: Green 1395 25 250 1126 by 1 or 1 on
@@ -119,7 +122,7 @@ sizable beside; Back 60 30 1095 375 b untold; Forward 1155 30 1095 375 b untold;
 b untold; Help page 60 480 7125 5145 on 8000000f untold; About Tessarine 6135 3120; Tessarine - March
 2008 A variant of Halvard card game Uses a numbers deck instead of standard card deck 30 30 5505 2700
 untold; - 5616 96 480 432 on 8000000f; Version 1.0 30 2760 5520 315 b; OK 5610 2745 450 330 Arial 7.5 b
-untold; Tessarine 2535 1305 no close box; Hello 840 300 540 336 Ariel 9 #1c1c1c; - 90 90 480 480 on
+untold; Tessarine 2535 1305 no close box with its boxes; Hello 840 300 540 336 Ariel 9 #1c1c1c; - 90 90 480 480 on
 8000000f hidden; - 90 90 480 480 on 8000000f hidden; - 90 90 480 480 on 8000000f hidden; - 90 90 480
 480 on 8000000f hidden; - 90 90 480 480 on 8000000f hidden; - 90 90 480 480 on 8000000f hidden; - 90 90
 480 480 on 8000000f hidden; - 90 90 480 480 on 8000000f hidden; - 90 90 480 480 on 8000000f hidden; -
@@ -135,7 +138,9 @@ untold; No 885 756 885 350 Ariel 9 b untold; Cancel 1770 756 885 350 Ariel 9 b u
         std::ostringstream window;
         window << form->Caption() << ' ' << form->Width() << ' ' << form->Height()
                << (form->Sizable ? " sizable" : "") << (form->StandsBeside ? " beside" : "")
-               << (form->HasCloseBox ? "" : " no close box");
+               << (form->HasCloseBox ? "" : " no close box")
+               << (form->BackColor() == world.form.shared.Background() ? "" : " not dressed")
+               << (form->ButtonColour == world.form.shared.Button() ? " with its boxes" : "");
         look.push_back(window.str());
         Look(*form, world.form.shared, look);
     }

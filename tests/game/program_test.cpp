@@ -130,6 +130,13 @@ bool TryOut(const std::function<void(GameWorld&)>& command, int failing, bool fr
     EXPECT_TRUE(files[2]["/app/all.col"] == files[1]["/app/all.col"] ||
                 world.platform.plainMessages.back() == "Error in adding Color Scheme:\r\nnew.col" ||
                 world.platform.plainMessages.back() == "Error in updating Color Scheme:\r\ndefault.col");
+    const auto tellsOfTheDeal = [](const std::string& text) {
+        return text.starts_with(
+                   "Critical: The deal could not be written to file:\r\n/app/tempgame.txt\r\n") &&
+               text.ends_with("The game goes on. Save and Restore will try to write it again.");
+    };
+    EXPECT_TRUE(files[2]["/app/tempgame.txt"] == world.Order() ||
+                std::ranges::any_of(told, tellsOfTheDeal));
     EXPECT_EQ(world.Fault(), "");
     EXPECT_FALSE(world.platform.busy);
     if (!world.platform.ended) { // the disk works again: what is told now, and was told before, is true

@@ -150,8 +150,9 @@ TEST_F(KitForms, HelpStepsThroughItsHistoryOnlyFromAnAnchor)
         platform.Click(button);
         return page.LocationURL();
     };
-    page.Navigate("page.htm"); // the same address is no new step
+    page.Navigate("page.htm"); // the same address is no new step, here and later
     page.UserFollows({"page.htm", "one"});
+    page.UserFollows({"page.htm", "two"});
     page.UserFollows({"page.htm", "two"});
     after(help.Command1);
     page.UserFollows({"page.htm", "three"}); // what lay ahead is gone
