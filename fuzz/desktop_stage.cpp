@@ -17,6 +17,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScopedValueRollback>
+#include <QScreen>
 #include <QSet>
 #include <QTest>
 #include <QTimer>
@@ -29,6 +30,9 @@ namespace tessarine::test
 {
 namespace
 {
+
+/// What a window manager may take over an answer.
+constexpr int ManagersTime = 1600;
 
 } // namespace
 
@@ -103,6 +107,7 @@ QSet<QString> NamesOn(QAccessibleInterface* on)
 DesktopHands::DesktopHands(DesktopPlatform& platform, Form1& main) : platform_(platform), main_(main)
 {
     QAccessible::setActive(true);
+    hasRefused_ = !qEnvironmentVariableIsEmpty("REFUSES"); // a window manager, from the start
     qApp->installEventFilter(this);
 }
 
@@ -231,9 +236,22 @@ void DesktopHands::Resize(Form& form, Size size)
 void DesktopHands::Refuse(Form& form)
 {
     const QScopedValueRollback working(working_, working_ + 1);
-    FormWindow& window = *platform_.WindowOf(form);
+    static constexpr std::array<Qt::WindowStates, 4> states = {Qt::WindowMaximized, Qt::WindowNoState,
+                                                               Qt::WindowFullScreen, Qt::WindowNoState};
     hasRefused_ = true;
-    window.isMaximized() ? window.showNormal() : window.showMaximized();
+    platform_.WindowOf(form)->showMinimized();
+    Wait(ManagersTime);
+    FormWindow* const window = platform_.WindowOf(form);
+    if (window == nullptr || !form.IsShown()) {
+        return; // it went meanwhile
+    }
+    window->setWindowState(states.at(state_++ % states.size()));
+    const QList<QScreen*> screens = QGuiApplication::screens();
+    if (QScreen& next = *screens[state_ / 2 % screens.size()]; &next != window->screen()) {
+        window->windowHandle()->setScreen(&next);
+        window->move(next.geometry().topLeft() + QPoint(20, 20));
+    }
+    Wait(ManagersTime);
 }
 
 void DesktopHands::Close(Form& form)
@@ -256,7 +274,7 @@ void DesktopHands::Wait(int milliseconds)
 void DesktopHands::Settle()
 {
     do {
-        Wait(0);
+        Wait(hasRefused_ ? ManagersTime : 0);
     } while (!IsAtRest() && main_.Captured() == nullptr);
     Wait(0); // and what has changed is painted
 }
@@ -315,7 +333,10 @@ std::string DesktopHands::Fault()
     if (QGuiApplication::overrideCursor() != nullptr) {
         return "it stays busy";
     }
-    return fault_;
+    const FormWindow& window = *platform_.WindowOf(main_);
+    const bool fits = main_.Width() == window.width() * TwipsPerPixel &&
+                      main_.Height() == window.height() * TwipsPerPixel;
+    return fits ? fault_ : "the form has another size than its window";
 }
 
 // --- the stage ---
@@ -326,6 +347,13 @@ DesktopStage::DesktopStage(unsigned seed)
 {
     form_.shared.MoveSteps = 2; // the storm has no time to look at them
     form_.Start();
+    hands_.Wait(ManagersTime); // a window manager may have its own mind about the first size
+    hands_.Settle();
+}
+
+std::size_t DesktopStage::Widgets() const
+{
+    return static_cast<std::size_t>(QApplication::allWidgets().size());
 }
 
 std::unique_ptr<Stage> NewStage(unsigned seed)

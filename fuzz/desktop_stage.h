@@ -44,7 +44,8 @@ private:
 
     DesktopPlatform& platform_;
     Form1& main_;
-    int working_ = 0; ///< deeds of the hands that the program is still busy with
+    std::size_t state_ = 0; ///< that the next window gets
+    int working_ = 0;       ///< deeds of the hands that the program is still busy with
     Qt::MouseButtons buttons_;
     std::string fault_;
 };
@@ -64,6 +65,7 @@ public:
     explicit DesktopStage(unsigned seed);
     Form1& form() override { return form_; }
     Hands& hands() override { return hands_; }
+    std::size_t Widgets() const override;
     DesktopPlatform& platform() { return platform_; }
 
 private:

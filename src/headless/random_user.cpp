@@ -170,6 +170,7 @@ void HeadlessHands::Meanwhile(int calls, std::function<void()> action)
 std::string HeadlessHands::Fault()
 {
     platform_.sounds.clear();
+    platform_.modalCaptions.clear();
     for (const std::string& text : std::exchange(platform_.plainMessages, {})) {
         if (text.find("not in stack") != std::string::npos || text.find("call") != std::string::npos) {
             return text;

@@ -20,6 +20,7 @@ public:
     virtual ~Stage() = default;
     virtual Form1& form() = 0;
     virtual Hands& hands() = 0;
+    virtual std::size_t Widgets() const { return 0; } ///< of the toolkit
 };
 
 class HeadlessStage : public Stage
