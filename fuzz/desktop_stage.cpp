@@ -334,8 +334,9 @@ std::string DesktopHands::Fault()
         return "it stays busy";
     }
     const FormWindow& window = *platform_.WindowOf(main_);
-    const bool fits = main_.Width() == window.width() * TwipsPerPixel &&
-                      main_.Height() == window.height() * TwipsPerPixel;
+    const bool fits = window.isMinimized() || // then it hears of its size when it is back
+                      (main_.Width() == window.width() * TwipsPerPixel &&
+                       main_.Height() == window.height() * TwipsPerPixel);
     return fits ? fault_ : "the form has another size than its window";
 }
 

@@ -91,17 +91,5 @@ TEST_F(ColourPicker, AClickOnALineOfABarTakesItsShadeAndKeepsTheBars)
     EXPECT_EQ(BarColour(), Rgb(7, 255, 255)) << "after a click the bars follow again";
 }
 
-TEST_F(ColourPicker, OnlyAReleaseOnTheSurfaceItselfCounts)
-{
-    const Point label{picker.Label2.Left() + 10, picker.Label2.Top() + 10};
-    for (const Point end : {label, Point{1200, 500}, Point{-20, 100}, Point{100, 1700}}) {
-        Drag({100, 100}, end);
-    }
-    static_cast<Control&>(picker).SetEnabled(false);
-    Drag({100, 100}, {100, 100});
-    picker.hsrRed.UserSets(12);
-    EXPECT_TRUE(events.empty());
-}
-
 } // namespace
 } // namespace tessarine

@@ -58,20 +58,6 @@ struct Schemes : testing::Test {
     Form6& dialog = world.form.form6;
 };
 
-TEST_F(Schemes, AreShiftedFromTheBackgroundAndHeldWithinShades)
-{
-    const auto shifted = [this](Colour background, Whole contrast) {
-        MakeScheme(module, background, contrast);
-        return std::vector<Colour>{module.SchemeColors.begin() + 3, module.SchemeColors.begin() + 9};
-    };
-    EXPECT_EQ(shifted(Rgb(100, 150, 200), 100),
-              (std::vector<Colour>{Rgb(1, 22, 72), Rgb(68, 118, 168), Rgb(36, 86, 136),
-                                   Rgb(228, 244, 244), Rgb(132, 182, 232), Rgb(164, 214, 244)}));
-    EXPECT_EQ(shifted(Grey(100), 5)[1], Grey(98)) << "a shift of 1.6";
-    EXPECT_EQ(shifted(Rgb(0, 255, 100), 0), std::vector<Colour>(6, Rgb(1, 244, 100)));
-    EXPECT_EQ(module.Background(), Rgb(0, 255, 100)) << "the background itself isn't held";
-}
-
 TEST_F(Schemes, AreReadWithTheirEdgesDerivedAndPreviewedAsTheFileStands)
 {
     const auto edges = [this] { return std::pair(module.SchemeColors[3], module.SchemeColors[5]); };

@@ -96,19 +96,6 @@ TEST_F(MessageBox, GrowsWithItsTextAndCentresItsButtons)
     }
 }
 
-TEST_F(MessageBox, HandsItsColoursAndFontOnAtEveryCall)
-{
-    platform.AnswerModal("Ok");
-    box.MsgboxA("Hi", "vbok", Rgb(10, 11, 12), White);
-    box.SetForeColor(Rgb(4, 5, 6));
-    box.SetFont({"Courier New", 9, true});
-    Ask("Hi", "vbok");
-    EXPECT_EQ(box.Label1.BackColor(), Rgb(10, 11, 12)) << "a colour given stays";
-    EXPECT_EQ(box.Label1.ForeColor(), Rgb(4, 5, 6));
-    EXPECT_EQ(box.Label1.Font(), box.Font());
-    EXPECT_EQ(box.cmd[2].BackColor(), White);
-}
-
 TEST_F(MessageBox, IsLeftByItsButtonsAloneAndLetsEventsRun)
 {
     bool ranBehindIt = false;

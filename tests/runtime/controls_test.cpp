@@ -57,38 +57,5 @@ TEST_F(Controls, AListIsFilledWhenSomebodyAsksAndKeepsItsSelectionOnItsEntry)
     EXPECT_EQ(list.Items().Count(), 0U);
 }
 
-TEST_F(Controls, AModalFormTakesTheMouseFromTheOthers)
-{
-    Form other(forms, "other", {3000, 2000});
-    Label lower;
-    Label upper;
-    std::string record;
-    for (Label* card : {&lower, &upper}) {
-        form.Add(*card);
-        card->MouseDown = [&](const MouseEvent&) { record += "down "; };
-        card->MouseUp = [&](const MouseEvent&) { record += "up "; };
-        card->MouseLost = [&] { record += "lost "; };
-    }
-    lower.SetBounds(0, 0, 400, 400);
-    upper.SetBounds(200, 200, 400, 400);
-    form.Show();
-    const auto press = [&](Twips at, int button) { form.FeedMouseDown({button, 0, at, at}); };
-    const auto release = [&](Twips at, int button) { form.FeedMouseUp({button, 0, at, at}); };
-    lower.MouseDown = [&](const MouseEvent&) { other.ShowModal(&form); };
-    platform.OnNextModal([&](Form& dialog) {
-        press(300, MiddleButton);
-        release(300, MiddleButton);
-        dialog.Hide();
-    });
-    press(100, LeftButton); // the release never comes here
-    press(300, RightButton);
-    release(300, RightButton);
-    EXPECT_EQ(record, "lost down up ");
-    lower.MouseDown = nullptr;
-    press(100, RightButton);
-    static_cast<Control&>(upper).UserActivates(); // past the mouse
-    EXPECT_EQ(record, "lost down up lost down up ");
-}
-
 } // namespace
 } // namespace tessarine

@@ -12,26 +12,6 @@ namespace tessarine::test
 namespace
 {
 
-TEST(ConfigurationTest, RoundTripKeepsEveryValue)
-{
-    GameWorld world;
-    Module1& shared = world.form.shared;
-    shared.CfgSpare = -12345678;
-    shared.CardTextColor = 7;
-    shared.SoundOn = 2;
-    shared.CardScale = 1.2493827F;
-    shared.SuitColor = {1, 2, 3, 4, 16777215};
-    shared.SchemeFile = "blue lagoon.col";
-    shared.CardFont = "Courier New";
-    world.form.configuration.SavecfgFile();
-    Settings& settings = shared;
-    const Settings written = settings;
-    settings = Settings();
-    world.form.configuration.ReadcfgFile();
-    EXPECT_TRUE(settings == written);
-    EXPECT_EQ(world.platform.unscriptedModals, 0);
-}
-
 TEST(ConfigurationTest, ReadsValuesNotLinesAndGivesUpWhatEndsEarly)
 {
     const std::string rest = "9\r\n8\r\n7\r\n6\r\n5\r\n";

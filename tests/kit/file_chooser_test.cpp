@@ -1,5 +1,4 @@
 #include "headless/headless_platform.h"
-#include "kit/box_button.h"
 #include "kit/file_chooser.h"
 
 #include <gtest/gtest.h>
@@ -23,13 +22,11 @@ public:
     }
 };
 
-struct OnAForm : testing::Test {
-    OnAForm()
+struct FileChooser : testing::Test {
+    FileChooser()
     {
-        button.SetBounds(30, 30, 360, 360);
         gf1.FileTypes = "*.gam";
         gf1.DefaultDir = "/games";
-        form.Add(button);
         form.Add(gf1);
         form.Show();
     }
@@ -43,25 +40,8 @@ struct OnAForm : testing::Test {
     WanderingPlatform platform;
     Forms forms{platform};
     Form form{forms, "Form", {3000, 3000}};
-    BoxControl button;
     FNDialog gf1;
 };
-using BoxButton = OnAForm;
-using FileChooser = OnAForm;
-
-TEST_F(BoxButton, IsPressedByAnyMouseButtonAndActsAtTheReleaseWhereverThatIs)
-{
-    std::vector<int> releasedWith;
-    button.MouseUp = [&](const MouseEvent& event) { releasedWith.push_back(event.button); };
-    platform.Press(form, 200, 200);
-    EXPECT_TRUE(button.HasBorder());
-    platform.Release(form, 2000, 2000);
-    EXPECT_FALSE(button.HasBorder());
-    platform.Click(button, RightButton);
-    button.SetEnabled(false);
-    button.UserActivates();
-    EXPECT_EQ(releasedWith, (std::vector<int>{LeftButton, RightButton}));
-}
 
 TEST_F(FileChooser, AsksTheSystemComesBackToItsFolderAndAddsTheExtension)
 {
