@@ -333,11 +333,15 @@ std::string DesktopHands::Fault()
     if (QGuiApplication::overrideCursor() != nullptr) {
         return "it stays busy";
     }
-    const FormWindow& window = *platform_.WindowOf(main_);
-    const bool fits = window.isMinimized() || // then it hears of its size when it is back
-                      (main_.Width() == window.width() * TwipsPerPixel &&
-                       main_.Height() == window.height() * TwipsPerPixel);
-    return fits ? fault_ : "the form has another size than its window";
+    const auto fits = [this] { // when it is minimised it will hear of its size later
+        const FormWindow& window = *platform_.WindowOf(main_);
+        return window.isMinimized() || (main_.Width() == window.width() * TwipsPerPixel &&
+                                        main_.Height() == window.height() * TwipsPerPixel);
+    };
+    if (!fits()) {
+        Wait(ManagersTime);
+    }
+    return fits() ? fault_ : "the form has another size than its window";
 }
 
 // --- the stage ---

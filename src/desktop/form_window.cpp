@@ -220,8 +220,8 @@ bool FormWindow::event(QEvent* event)
         Refresh(); // what has changed until now goes into the same paint
     } else if (type == QEvent::WindowActivate && TheForm() != nullptr) {
         TheForm()->FeedActivation();
-    } else if (type == QEvent::WindowStateChange && !isMinimized() && TheForm() != nullptr &&
-               static_cast<QWindowStateChangeEvent*>(event)->oldState().testFlag(Qt::WindowMinimized)) {
+    } else if (type == QEvent::WindowStateChange && std::exchange(wasMinimized_, isMinimized()) &&
+               !isMinimized() && TheForm() != nullptr) {
         TellSize();
         TheForm()->FeedRestored();
     } else if (type == QEvent::Paint && !std::exchange(wasPainted_, true)) {

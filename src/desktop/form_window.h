@@ -65,6 +65,7 @@ private:
     std::function<QPoint(QSize outer)> place_;
     QMargins frame_; ///< that it was placed with
     bool wasPainted_ = false;
+    bool wasMinimized_ = false; ///< the toolkit's event of a change does not always know
 };
 
 } // namespace tessarine
