@@ -19,14 +19,20 @@ TEST_F(Controls, WhatStandsOnAControlThatIsNotEnabledTakesNoInput)
 {
     Frame frame;
     CheckBox box;
+    PushButton button;
+    int presses = 0;
+    button.MouseUp = [&](const MouseEvent&) { ++presses; };
     form.Add(frame);
     frame.Add(box);
+    frame.Add(button);
     form.Show();
     Control& anyControl = frame;
     for (const bool enabled : {false, true}) {
         anyControl.SetEnabled(enabled);
         box.UserActivates();
+        button.UserReleases(LeftButton);
         EXPECT_EQ(box.Value(), enabled);
+        EXPECT_EQ(presses, enabled ? 1 : 0);
     }
 }
 
