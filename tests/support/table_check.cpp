@@ -146,8 +146,9 @@ private:
             const Label& label = Item(item);
             Expect(label.Width() == now_.CardWidth && label.Height() == now_.CardHeight, "another size",
                    item);
-            Expect(label.Font().size == points && label.Font().bold && label.IsOpaque(), "another look",
-                   item);
+            const bool isText =
+                label.Font().size == points && label.Font().bold && label.Align() == Alignment::Centre;
+            Expect(isText && label.IsOpaque(), "another look", item);
             const bool isBlank = item == StockPlace || label.Caption().empty();
             Expect(!isBlank || label.BackColor() == Item(60).BackColor(), "another colour", item);
             const bool isPileBase = item >= 55 && item < 60;
