@@ -507,6 +507,12 @@ TEST_F(PaintingTest, TextFramesMarksAndStatesAreSeenOnEveryGround)
         Events();
         EXPECT_NE(Shown(*control, 1), before) << static_cast<int>(control->Kind());
     }
+    const auto leftOfMiddle = [this](const Control& control) { // where a dot is and a tick is not
+        const QImage shown = Shown(control, 1);
+        const QRect mark = InkOn(shown.copy(0, 5, 16, 33), control.BackColor());
+        return shown.pixel(mark.left() + mark.width() * 2 / 5, mark.center().y() + 5);
+    };
+    EXPECT_NE(leftOfMiddle(option), leftOfMiddle(check));
     const QImage arrows = Shown(bar, 1);
     const auto width = [&](int y) { // of the part of an arrow that lies in a row
         const auto isGround = [&](QPoint, QRgb pixel) { return pixel == arrows.pixel(3, 4); };

@@ -85,7 +85,10 @@ TEST_F(WidgetsTest, AListShowsAsChosenWhatItsControlSaysAndNothingElse)
 
     // What the program does comes to the widget and not back.
     list.FillWhenAsked([] { return std::vector<std::string>(200, "font"); });
+    list.SetHeight(24000); // where no row after the hundredth can be the top one
     list.SetTopIndex(120);
+    Events();
+    list.SetHeight(2400);
     Events();
     EXPECT_EQ(after([] {}), "");
     EXPECT_EQ(view.indexAt({5, 3}).row(), 120);
