@@ -4,6 +4,7 @@
 #include "desktop/pixels.h"
 #include "desktop/text.h"
 #include "runtime/controls.h"
+#include "support/widget_of.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
@@ -138,20 +139,9 @@ void DesktopHands::Release(Form& form, Point at, int button)
     Mouse(form, at, button, QEvent::MouseButtonRelease);
 }
 
-QWidget& DesktopHands::WidgetOf(const Control& control) const
-{
-    FormWindow& window = *platform_.WindowOf(*control.OwnerForm());
-    for (QWidget* widget : window.findChildren<QWidget*>()) {
-        if (const Peer* peer = PeerBehind(widget); peer != nullptr && peer->TheControl() == &control) {
-            return *widget;
-        }
-    }
-    return window;
-}
-
 void DesktopHands::Work(Control& control, int button, int detail)
 {
-    QWidget& widget = WidgetOf(control);
+    QWidget& widget = WidgetOf(platform_, control);
     QPoint at = widget.visibleRegion().boundingRect().center(); // a part may lie outside of the window
     if (auto* bar = dynamic_cast<ScrollBar*>(&control)) {
         auto* const tool = QAccessible::queryAccessibleInterface(&widget);
@@ -195,7 +185,7 @@ void DesktopHands::Key(Form& form, int detail)
 
 void DesktopHands::Activate(Control& control)
 {
-    const QPointer<QWidget> widget(&WidgetOf(control));
+    const QPointer<QWidget> widget(&WidgetOf(platform_, control));
     auto* const tool = QAccessible::queryAccessibleInterface(widget);
     if (tool->actionInterface() != nullptr) {
         const QScopedValueRollback working(working_, working_ + 1);

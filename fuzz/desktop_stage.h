@@ -38,7 +38,6 @@ protected:
 
 private:
     void Mouse(Form& form, Point at, int button, QEvent::Type type, int shift = 0);
-    QWidget& WidgetOf(const Control& control) const;
     void MeetSoon(const QPointer<QWidget>& window);
     void AnswerBox(QWidget& window);
 

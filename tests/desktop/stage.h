@@ -5,6 +5,7 @@
 #include "desktop/pixels.h"
 #include "runtime/controls.h"
 #include "runtime/form.h"
+#include "support/widget_of.h"
 
 #include <QApplication>
 #include <QImage>
@@ -39,18 +40,6 @@ inline void Mouse(const DesktopPlatform& platform, QTest::MouseAction action, co
 inline QPoint MiddleOf(const Control& control)
 {
     return QRect({}, PixelRect(control).size()).center();
-}
-
-/// The widget of a windowed control on a shown form; the window, where it has none.
-inline QWidget& WidgetOf(const DesktopPlatform& platform, const Control& control)
-{
-    FormWindow& window = *platform.WindowOf(*control.OwnerForm());
-    for (QWidget* widget : window.findChildren<QWidget*>()) {
-        if (const Peer* peer = PeerBehind(widget); peer != nullptr && peer->TheControl() == &control) {
-            return *widget;
-        }
-    }
-    return window;
 }
 
 /// How many users wait for a modal window.
