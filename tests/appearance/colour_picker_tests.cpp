@@ -67,6 +67,8 @@ TEST_F(ColourPicker, AClickOnThePaletteTakesTheCellAndDrawsTheBars)
     Click(65 * 3 - 20, 225 * 2 - 50); // second row, third column
     EXPECT_EQ(events, std::vector<Colour>{PaletteColour(6)});
     EXPECT_EQ(Click(100, 242), White); // between two rows
+    Drag({100, 100}, {-20, 100});
+    EXPECT_EQ(picker.SchemeColor(), White) << "let go beside it";
     // The last row reaches below where the bars stay as they are.
     EXPECT_EQ(Click(40, 900), PaletteColour(12));
     EXPECT_EQ(BarColour(), White);

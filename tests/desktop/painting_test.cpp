@@ -199,8 +199,10 @@ TEST_F(ScreenTest, AClickTakesTheColourThatItsPixelShows)
 {
     constexpr Colour base = Rgb(200, 100, 50);
     ColPik picker;
-    picker.SetBounds(155, 277, 2025, 1635); // its corner is no whole pixel
-    Show({&picker});
+    surface.SetBounds(120, 240, 4500, 3000);
+    surface.Add(picker);
+    picker.SetBounds(35, 37, 2025, 1635); // its corner is no whole pixel
+    Show({&surface});
     picker.SetSchemeColor(base);
     Events();
     FormWindow& window = *platform.WindowOf(form);
@@ -533,6 +535,12 @@ TEST_F(PaintingTest, AButtonOfTheToolkitLooksLikeOneOfTheProgram)
     button.SetCaption("Wide & Fair");
     form.SetBackColor(Black);
     Show({&button, &box});
+    const QImage up = Shown(box, 1).copy(30, 0, 10, 25);
+    const auto rowsOf = [&](Colour colour) {
+        return Wrong(up, [=](QPoint, QRgb pixel) { return pixel != Pixel(colour); });
+    };
+    EXPECT_EQ(rowsOf(White), QRect(0, 0, 10, 1)) << "its edges above";
+    EXPECT_EQ(rowsOf(Black), QRect(0, 23, 10, 1)) << "and below";
     const auto withKeyboard = [this](Control& one, double scale, bool isDown) {
         Native(one).setFocus(Qt::TabFocusReason);
         Native<QPushButton>(button).setDown(isDown);
