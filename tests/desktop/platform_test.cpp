@@ -43,7 +43,7 @@ TEST_F(PlatformTest, ATimerTicksOnceInItsTimeAndWaitingSleeps)
         for (; ticks.empty(); ++waits) {
             platform.WaitForEvent();
         }
-        EXPECT_GE(ticks[0], interval);
+        EXPECT_GE(ticks[0], interval - 1); // which the timers of Windows may round away
         EXPECT_LT(waits, 50) << "a wait that returns at once keeps a core busy";
         QTest::qWait(2 * interval);
         EXPECT_EQ(ticks.size(), 1U);
