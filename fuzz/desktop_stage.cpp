@@ -235,7 +235,7 @@ void DesktopHands::Refuse(Form& form)
     if (window == nullptr || !form.IsShown()) {
         return; // it went meanwhile
     }
-    window->setWindowState(states.at(state_++ % states.size()));
+    window->setWindowState(states.at(static_cast<std::size_t>(state_++) % states.size()));
     const QList<QScreen*> screens = QGuiApplication::screens();
     if (QScreen& next = *screens[state_ / 2 % screens.size()]; &next != window->screen()) {
         window->windowHandle()->setScreen(&next);

@@ -43,8 +43,8 @@ private:
 
     DesktopPlatform& platform_;
     Form1& main_;
-    std::size_t state_ = 0; ///< that the next window gets
-    int working_ = 0;       ///< deeds of the hands that the program is still busy with
+    int state_ = 0;   ///< that the next window gets, as a number that counts on
+    int working_ = 0; ///< deeds of the hands that the program is still busy with
     Qt::MouseButtons buttons_;
     std::string fault_;
 };
