@@ -117,13 +117,14 @@ TEST_F(Schemes, AreAddedUnlessTheNameBeginsATakenOne)
 TEST_F(Schemes, AreReplacedInTheirPlaceAndDeleted)
 {
     EXPECT_EQ(Press(dialog.repsch), "Select a color scheme to replace");
+    EXPECT_EQ(Press(dialog.delsch), "Select a color scheme to delete");
     PickScheme("grey");
     MakeScheme(module, Rgb(1, 2, 3), 100);
     const std::string made = EntryText("grey.col", module);
     platform.meanwhile.emplace_back(
         [this] { static_cast<Control&>(dialog.delsch).UserActivates(); }); // behind the question
     EXPECT_EQ(Press(dialog.repsch, false), "Replace color scheme: grey");
-    EXPECT_EQ(platform.plainMessages.size(), 4U);
+    EXPECT_EQ(platform.plainMessages.size(), 6U);
     EXPECT_EQ(Press(dialog.repsch), "Color Scheme: grey.col replaced");
     EXPECT_EQ(AllCol(), GreyEntry("default.col", 100) + made + GreyEntry("slate.col", 60));
     EXPECT_EQ(platform.files["/app/newall.cox"], AllCol());
@@ -171,6 +172,10 @@ TEST_F(OptionsDialog, OpensOnWhatIsInForce)
     EXPECT_EQ(dialog.ContrastV.Value(), 100);
     EXPECT_EQ(module.SchemeColors, previewed) << "the slider goes home in silence";
     EXPECT_EQ(dialog.Label1.Font().name, "No Such Font");
+    module.CardFont = "courier new";
+    Press(dialog.command4);
+    dialog.Show();
+    EXPECT_EQ(dialog.List2.Items().At(dialog.List2.TopIndex()), "Courier New") << "it is in sight";
 }
 
 TEST_F(OptionsDialog, APreviewPaintsTheDialogAlone)

@@ -161,10 +161,11 @@ TEST_F(WidgetsTest, OptionsTurnOnlyAsTheirControlsDo)
 TEST_F(WidgetsTest, CaseIsFoldedAsTheToolkitFoldsIt)
 {
     EXPECT_EQ(ToText("\xC9TE"), ToText("\u00C9TE")) << "Latin-1 is read as well";
-    for (char32_t letter = 1; letter < 0x2000; ++letter) {
+    for (char32_t letter = 1; letter < 0xFB20; ++letter) {
         const QString text = QString::fromUcs4(&letter, 1);
         const QChar::Script script = QChar::script(letter);
-        if (script >= QChar::Script_Latin && script <= QChar::Script_Armenian) {
+        const bool isInWords = letter < 0x2000 || letter >= 0xFB00; // the last are the ligatures
+        if (isInWords && script >= QChar::Script_Latin && script <= QChar::Script_Armenian) {
             EXPECT_EQ(LowerCase(ToBytes(text)), ToBytes(text.toLower())) << static_cast<int>(letter);
             EXPECT_EQ(Folded(ToBytes(text)), Folded(ToBytes(text.toCaseFolded())));
         }

@@ -197,9 +197,10 @@ TEST(LookTest, EveryCommandHasItsIconAndItsEffect)
                 }
             }
         });
-        const Picture* icon = (world.form.*button).Shown();
-        ASSERT_TRUE(icon != nullptr && !icon->shapes.empty() && icons.insert(icon).second) << effect;
-        ink += Ink(*icon);
+        const auto& icon = std::get<Canvas::Drawing>((world.form.*button).Drawing().Strokes().back());
+        EXPECT_EQ(icon.upperLeft, (Point{50.25, 50.25})) << "a little left and above the middle";
+        ASSERT_TRUE(!icon.picture->shapes.empty() && icons.insert(icon.picture).second) << effect;
+        ink += Ink(*icon.picture);
         const Point at = (world.form.*button).PlaceOnForm();
         world.platform.Press(world.form, at.x + 60, at.y + 60);
         EXPECT_TRUE((world.form.*button).HasBorder()) << "it is down";
